@@ -1,0 +1,27 @@
+# The module definition is the one list of exports. From it come the version script of the Linux
+# library and the definition with decorated names from which the import library is made.
+
+# Writes `version_script` (exports and host functions visible, nothing else) and `import_definition`.
+function(stmdata_derive_exports definition host_functions version_script import_definition)
+  set_property(DIRECTORY APPEND PROPERTY CMAKE_CONFIGURE_DEPENDS ${definition} ${host_functions})
+  file(STRINGS ${definition} rows REGEX "@[0-9]+$")
+  file(STRINGS ${host_functions} host_names)
+  set(script "{\n  global:\n")
+  set(import "LIBRARY stmdata.dll\nEXPORTS\n")
+  foreach(row IN LISTS rows)
+    string(REGEX MATCH "^ *([A-Za-z_0-9]+) = ([A-Za-z_0-9]+@[0-9]+) (@[0-9]+)$" matched "${row}")
+    if(NOT matched)
+      message(FATAL_ERROR "${definition}: a row that is not `Name = Name@bytes @ordinal`: ${row}")
+    endif()
+    string(APPEND script "    ${CMAKE_MATCH_1};\n")
+    if(NOT CMAKE_MATCH_1 STREQUAL "DllMain")
+      string(APPEND import "  ${CMAKE_MATCH_2} ${CMAKE_MATCH_3}\n")
+    endif()
+  endforeach()
+  foreach(name IN LISTS host_names)
+    string(APPEND script "    ${name};\n")
+  endforeach()
+  string(APPEND script "  local: *;\n};\n")
+  file(CONFIGURE OUTPUT ${version_script} CONTENT "${script}" @ONLY)
+  file(CONFIGURE OUTPUT ${import_definition} CONTENT "${import}" @ONLY)
+endfunction()

@@ -1,0 +1,73 @@
+/* stmdata: what a colour laser printer says, in records, codes, texts and pictures.
+
+   The road of a poll: CreateQueryCommand gives the bytes to send, SetPrnInfo(Ex)FromReadbackCmd
+   fills a record from the printer's reply, and the Pat... questions are asked of that record.
+
+   Functions come in twins: the plain name takes the flat PrnInfo, the name with _Ex the list-based
+   PrnInfoEx. All run to completion on the caller's thread and keep no reference to what they are
+   given. Results are 1 for success and 0 for failure unless said otherwise. */
+#ifndef STMDATA_STMDATA_H
+#define STMDATA_STMDATA_H
+
+#ifdef _WIN32
+#include <windows.h>
+#define STM_CALL __stdcall
+#define STM_API
+#else
+#include "stmdata/host.h"
+#define STM_API __attribute__((visibility("default")))
+#endif
+
+#include "stmdata/records.h"
+
+#ifdef __cplusplus
+extern "C" {
+#endif
+
+/* ---- Module ---------------------------------------------------------------------------------- */
+
+#ifndef _WIN32
+/* Called once by the loader. Result: 1. */
+STM_API BOOL STM_CALL DllMain(HINSTANCE module, DWORD reason, void* reserved);
+#endif
+
+/* ---- Query and reply ------------------------------------------------------------------------- */
+
+/* Builds the readback query to be sent to the printer.
+   groups  set of Group... bits; bits without request bytes add nothing
+   buffer  receives the query, at most 41 bytes, and a zero byte after it where there is room
+   size    in: capacity of `buffer` in bytes; out: length of the query in bytes without the zero
+   Result  1 written. 0: nothing written, GetLastError says why:
+           487 `size` or `buffer` is null; 122 too small, `*size` is then the length needed */
+STM_API uint32_t STM_CALL CreateQueryCommand(uint32_t groups, char* buffer, uint32_t* size);
+
+/* Updates `record` from the printer's readback reply, block by block.
+   record  the caller's, zero-filled before its first use; lists are reused when the number of
+           entries is unchanged, else rebuilt; fields that the reply does not carry stay
+   reply   `length` bytes; none past them is read. The walk ends at the length, at a zero byte where
+           a block should begin, at an unknown letter, and at a block that the reply cuts off
+   length  bytes; 0 or less reads nothing
+   Result  1 walked, 0 null record or the reply does not begin with ESC (the record is untouched).
+   A block's list that cannot be allocated becomes empty. */
+STM_API uint32_t STM_CALL SetPrnInfoExFromReadbackCmd(PrnInfoEx* record, const char* reply,
+                                                      int32_t length);
+
+/* ---- Status ---------------------------------------------------------------------------------- */
+
+/* The library's last error, one value for the process: one of the PatError... values. Most
+   successful calls leave an earlier value standing. */
+STM_API uint32_t STM_CALL PatGetError(void);
+
+/* Copies the status row of the record's status code to `row`. No choice among several statuses is
+   made and service calls 49 to 64 have no row.
+   Result  1 copied, 0 failed and `row` untouched; PatGetError: 1 no row for the code, 2 `info` or
+           `row` is null
+   _Ex     takes the first listed status; 1 also for an empty status list */
+STM_API uint32_t STM_CALL PatGetPrinterStatus(const PrnInfo* info, StatusRow* row);
+STM_API uint32_t STM_CALL PatGetPrinterStatus_Ex(const PrnInfoEx* info, StatusRow* row);
+
+#ifdef __cplusplus
+} /* extern "C" */
+#endif
+
+#endif

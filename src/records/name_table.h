@@ -1,0 +1,18 @@
+// Name tables: rows of a name and its code, closed by a row without a name whose code answers for
+// every name that no row holds.
+#pragma once
+
+#include <cstdint>
+
+namespace stm {
+
+struct NameCode {
+  const char* name;
+  int32_t code;
+};
+
+// The code of the first row whose name equals `name` byte for byte, else the closing row's; -1 when
+// `name` or `table` is null.
+int32_t LookupNameCode(const char* name, const NameCode* table);
+
+}  // namespace stm

@@ -1,0 +1,96 @@
+#include "records/paper_blocks.h"
+
+#include "records/item_list.h"
+#include "records/reply_tables.h"
+
+namespace stm {
+namespace {
+
+uint16_t PaperCode(const char* value) {
+  return static_cast<uint16_t>(LookupNameCode(value, kPaperSizes));
+}
+
+uint16_t Number(const char* value) {
+  return static_cast<uint16_t>(ParseDecimal(value));
+}
+
+// What differs between the blocks: the list with its count, the keys, and where a value goes.
+template <class Node>
+struct EntryRule {
+  Node* PrnInfoEx::*list;
+  uint32_t PrnInfoEx::*count;
+  const NameCode* ids;
+  uint16_t Node::*key;
+  uint16_t Node::*field;
+  uint16_t (*valueOf)(const char*);
+};
+
+constexpr EntryRule<TrayNode> kTrayRule = {
+    &PrnInfoEx::trayList, &PrnInfoEx::trayCount, kTrayLetters,
+    &TrayNode::trayId,    &TrayNode::paperCode,  PaperCode,
+};
+constexpr EntryRule<TrayNode> kLevelRule = {
+    &PrnInfoEx::trayList, &PrnInfoEx::trayCount, kTrayLetters,
+    &TrayNode::trayId,    &TrayNode::paperLevel, Number,
+};
+constexpr EntryRule<BinNode> kBinRule = {
+    &PrnInfoEx::binList, &PrnInfoEx::binCount, kBinNumbers,
+    &BinNode::binId,     &BinNode::binState,   Number,
+};
+
+// An id and a value, both followed by a CR or the LF, make an entry.
+uint32_t CountEntries(const BlockCopy& copy) {
+  uint32_t returns = 0;
+  for (uint32_t i = 0; i < copy.length; ++i)
+    returns += copy.text[i] == kCarriageReturn;
+  return returns / 2;
+}
+
+//   1B 'T' CR  1 CR 5 CR  2 CR -1 LF
+//              |    value
+//              id
+//
+// Values go to the node with the entry's id. The k-th id that no node has yet takes the k-th node
+// from the head; when the nodes are used up, such an entry is dropped.
+template <class Node>
+uint16_t ParseEntries(const Input& block, PrnInfoEx* record, const EntryRule<Node>& rule) {
+  const BlockCopy copy = CopyBlock(block);
+  const uint32_t count = CountEntries(copy);
+  if (count != record->*rule.count) {
+    FreeItemList(record->*rule.list);
+    record->*rule.list = AllocItemList<Node>(count);
+    record->*rule.count = record->*rule.list ? count : 0;
+  }
+  Node* cursor = record->*rule.list;
+
+  Input fields = FieldsOf(copy);
+  while (Peek(fields) != '\0') {
+    const auto id = ReadField<8>(fields, kCarriageReturn);
+    const auto value = ReadField<8>(fields, kCarriageReturn, kLineFeed);
+    const auto key = static_cast<uint16_t>(LookupNameCode(id.text, rule.ids));
+    Node* node = FindItem(record->*rule.list, key);
+    if (!node && cursor) {
+      node = cursor;
+      cursor = cursor->next;
+      node->*rule.key = key;
+    }
+    if (node) node->*rule.field = rule.valueOf(value.text);
+  }
+  return static_cast<uint16_t>(copy.length);
+}
+
+}  // namespace
+
+uint16_t ParseTrayBlock(const Input& block, PrnInfoEx* record) {
+  return ParseEntries(block, record, kTrayRule);
+}
+
+uint16_t ParseLevelBlock(const Input& block, PrnInfoEx* record) {
+  return ParseEntries(block, record, kLevelRule);
+}
+
+uint16_t ParseBinBlock(const Input& block, PrnInfoEx* record) {
+  return ParseEntries(block, record, kBinRule);
+}
+
+}  // namespace stm

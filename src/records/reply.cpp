@@ -1,0 +1,81 @@
+#include "records/reply.h"
+
+#include <atomic>
+#include <cstring>
+
+#include "records/paper_blocks.h"
+#include "records/scanners.h"
+#include "records/status_block.h"
+#include "stmdata/stmdata.h"
+
+namespace stm {
+namespace {
+
+std::atomic<uint32_t> lastParseFlags{0};
+
+struct BlockRow {
+  char letter;
+  uint16_t (*parse)(const Input& block, PrnInfoEx* record);
+  uint32_t groups;
+};
+
+constexpr BlockRow kBlocks[] = {
+    {'S', ParseStatusBlock, GroupStatus | GroupStatusList},  // status
+    {'T', ParseTrayBlock, GroupTrays},                       // paper sizes
+    {'Z', ParseLevelBlock, GroupTrays},                      // paper levels
+    {'L', ParseBinBlock, GroupBins},                         // output bins
+};
+
+constexpr char kEndLetter = ' ';
+constexpr uint32_t kEndLength = 2;
+
+const BlockRow* FindBlock(int8_t letter) {
+  for (const BlockRow& row : kBlocks) {
+    if (row.letter == letter) return &row;
+  }
+  return nullptr;
+}
+
+// Whether the block's end has arrived: its LF, for a status block also the end marker. A reply that
+// was cut off inside a block says nothing reliable in it.
+bool IsComplete(const Input& rest, int8_t letter) {
+  if (std::memchr(rest.position, kLineFeed, Left(rest))) return true;
+  if (letter != 'S') return false;
+  for (Input at = rest; Left(at) > 1; Skip(at, 1)) {
+    if (BlockLetter(at) == kEndLetter) return true;
+  }
+  return false;
+}
+
+void WalkReply(Input rest, PrnInfoEx* record) {
+  while (Peek(rest) != '\0') {
+    const int8_t letter = BlockLetter(rest);
+    if (letter == kEndLetter) {
+      Skip(rest, kEndLength);
+      continue;
+    }
+    const BlockRow* row = FindBlock(letter);
+    if (!row || !IsComplete(rest, letter)) return;
+    Skip(rest, row->parse(rest, record));
+    lastParseFlags.fetch_or(row->groups, std::memory_order_relaxed);
+  }
+}
+
+}  // namespace
+
+uint32_t LastParseFlags() {
+  return lastParseFlags.load(std::memory_order_relaxed);
+}
+
+}  // namespace stm
+
+uint32_t STM_CALL SetPrnInfoExFromReadbackCmd(PrnInfoEx* record, const char* reply,
+                                              int32_t length) {
+  stm::lastParseFlags.store(0, std::memory_order_relaxed);
+  if (!record || !reply) return 0;
+  if (length <= 0) return 1;
+  const stm::Input input{reply, reply + length};
+  if (stm::BlockLetter(input) == -1) return 0;
+  stm::WalkReply(input, record);
+  return 1;
+}

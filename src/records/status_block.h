@@ -1,0 +1,20 @@
+// The S block: status codes, online flag, tray and bin in use.
+#pragma once
+
+#include <cstdint>
+
+#include "records/scanners.h"
+#include "stmdata/records.h"
+
+namespace stm {
+
+enum : uint32_t { StatusClassReady = 0, StatusClassWarning = 1, StatusClassError = 2 };
+
+// The class of a status code; codes that no row lists are errors.
+uint32_t StatusClass(uint32_t code);
+
+// Parses the block at `block` into `record`. Result: how many bytes of the reply it took, with an
+// end marker that closes the block.
+uint16_t ParseStatusBlock(const Input& block, PrnInfoEx* record);
+
+}  // namespace stm

@@ -1,0 +1,110 @@
+// What the tests share: memory that ends at an unreadable page, poisoned records, markers in both
+// error values, and the release of a caller's record.
+#pragma once
+
+#include <cstdint>
+#include <cstring>
+#include <string>
+#include <string_view>
+#include <vector>
+
+#include "stmdata/stmdata.h"
+
+#ifndef _WIN32
+#include <sys/mman.h>
+#include <unistd.h>
+#endif
+
+namespace test {
+
+constexpr uint8_t kPoison = 0xA5;
+constexpr DWORD kMarker = 0x5A5A;
+
+// A copy of bytes whose end is the end of readable memory: one byte further faults.
+class GuardedBytes {
+ public:
+  explicit GuardedBytes(std::string_view bytes) : size_(bytes.size()) {
+    const size_t page = 4096;
+    readable_ = (size_ + page - 1) / page * page + page;
+#ifdef _WIN32
+    base_ = static_cast<char*>(VirtualAlloc(nullptr, readable_ + page, MEM_RESERVE, PAGE_NOACCESS));
+    VirtualAlloc(base_, readable_, MEM_COMMIT, PAGE_READWRITE);
+#else
+    base_ = static_cast<char*>(
+        mmap(nullptr, readable_ + page, PROT_NONE, MAP_PRIVATE | MAP_ANONYMOUS, -1, 0));
+    mprotect(base_, readable_, PROT_READ | PROT_WRITE);
+#endif
+    std::memset(base_, kPoison, readable_);
+    if (size_ > 0) std::memcpy(data(), bytes.data(), size_);
+  }
+  GuardedBytes(const GuardedBytes&) = delete;
+  GuardedBytes& operator=(const GuardedBytes&) = delete;
+  ~GuardedBytes() {
+#ifdef _WIN32
+    VirtualFree(base_, 0, MEM_RELEASE);
+#else
+    munmap(base_, readable_ + 4096);
+#endif
+  }
+
+  char* data() {
+    return base_ + readable_ - size_;
+  }
+  int32_t size() const {
+    return static_cast<int32_t>(size_);
+  }
+  bool neighboursUntouched() const {
+    for (const char* p = base_; p < base_ + readable_ - size_; ++p) {
+      if (static_cast<uint8_t>(*p) != kPoison) return false;
+    }
+    return true;
+  }
+
+ private:
+  size_t size_;
+  size_t readable_;
+  char* base_;
+};
+
+template <class Node>
+void FreeNodes(Node*& head) {
+  while (head) {
+    Node* next = head->next;
+    GlobalFree(head);
+    head = next;
+  }
+}
+
+// A list-based record as a caller owns it: zero-filled at first, released at the end.
+struct Record : PrnInfoEx {
+  Record() : PrnInfoEx{} {}
+  Record(const Record&) = delete;
+  Record& operator=(const Record&) = delete;
+  ~Record() {
+    for (char* text :
+         {modelName, manufacturer, description, versionText1, versionText2, versionText3})
+      GlobalFree(text);
+    FreeNodes(statusList);
+    FreeNodes(emulationList);
+    FreeNodes(fontList);
+    FreeNodes(trayList);
+    FreeNodes(binList);
+    FreeNodes(optionList);
+  }
+};
+
+inline uint32_t Parse(Record& record, std::string_view reply) {
+  GuardedBytes bytes(reply);
+  return SetPrnInfoExFromReadbackCmd(&record, bytes.data(), bytes.size());
+}
+
+// A list's keys or values in order, for comparison with what is expected.
+template <class Node, class Value>
+std::vector<uint32_t> Values(const Node* head, Value Node::*field) {
+  std::vector<uint32_t> values;
+  for (; head; head = head->next)
+    values.push_back(head->*field);
+  return values;
+}
+
+}  // namespace test
