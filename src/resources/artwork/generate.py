@@ -1,0 +1,255 @@
+#!/usr/bin/python3
+"""Render the vector artwork into the committed bitmaps and icons.
+
+    generate.py            write ../bitmaps/*.bmp, ../icons/*.ico and the two resource scripts
+    generate.py --check    render into a temporary folder and compare with the committed files;
+                           exit status 1 with a list of the files that differ
+
+requirements (Debian packages): librsvg2-bin python3-pil
+
+Every top-level group of front.svg, back.svg, icons.svg and paper.svg is one layer. A group whose
+id starts with P_ is an opaque whole-printer base; any other group of the two printer views becomes
+a pair: the image BMP_PR_x, pure black around its part, and the mask BMP_PB_x derived from it, black
+where the part is and white elsewhere. The monitor paints a pair with AND and OR, so a part's own
+black must not be pure black: it is the darkest grey of the palette.
+"""
+import filecmp
+import io
+import os
+import struct
+import subprocess
+import sys
+import tempfile
+import xml.etree.ElementTree as ET
+
+from PIL import Image
+
+HERE = os.path.dirname(os.path.abspath(__file__))
+RESOURCES = os.path.dirname(HERE)
+SVG = "http://www.w3.org/2000/svg"
+ET.register_namespace("", SVG)
+
+# One palette for every picture and icon. Entry 0 is pure black and means "outside the part" in an
+# image layer; entry 1 is pure white and means the same in a mask.
+OUTSIDE, WHITE = 0, 1
+PALETTE = (
+    (0, 0, 0), (255, 255, 255),
+    (40, 44, 48), (90, 96, 104), (140, 146, 152), (180, 186, 190), (212, 216, 220), (236, 240, 242),
+    (240, 90, 0), (255, 216, 168),                     # highlight "here", its tint
+    (0, 164, 228), (224, 0, 124), (255, 224, 0),       # cyan, magenta, yellow toner
+    (44, 92, 156), (32, 160, 72), (208, 16, 32),       # blue, green, red
+)
+
+# Layer names in the order of the part codes 1 to 67.
+LAYERS = """
+P_BASE P_B_BASE1 PR_BASE2 PR_B_BASE2 PR_P_TRAY1 PR_P_TRAY2 PR_WASTONER PR_K_UNIT PR_O_BOTTLE
+PR_C_ROLLER PR_COVER_O PR_TONER_F PR_F_COVER PR_T_COVER PR_TONER_EK PR_TONER_EY PR_TONER_EM
+PR_TONER_EC PR_B_COVER PR_BT_COVER PR_CAUTION PR_SERVICE PR_POWEROFF PB_P_TRAY1 PB_P_TRAY2
+PB_WASTONER PB_K_UNIT PB_O_BOTTLE PB_C_ROLLER PB_COVER_O PB_TONER_F PB_F_COVER PB_T_COVER
+PB_TONER_EK PB_TONER_EY PB_TONER_EM PB_TONER_EC PB_B_COVER PB_BT_COVER PB_CAUTION PB_SERVICE
+PB_POWEROFF PB_BASE2 PB_B_BASE2 P_DUP_BACK PR_DT_CVR PR_DUP_U1 PR_DUP_U2 PR_DUP_U3 PB_DT_CVR
+PB_DUP_U1 PB_DUP_U2 PB_DUP_U3 PR_BASE3 PB_BASE3 PR_B_BASE3 PB_B_BASE3 PR_P_TRAY3 PB_P_TRAY3
+PR_B_COVER2 PB_B_COVER2 PR_B_COVER3 PB_B_COVER3 PR_HAISHI PB_HAISHI PR_DUP_BACK2 PB_DUP_BACK2
+""".split()
+PAPERS = ["PAPER_NORMAL", "PAPER_R"]
+# The resource compiler numbers icon images in script order, so this order gives the ids 1 to 16.
+ICONS = """
+ONLINE OFFLINE WARMUP ERR_CAUTION ERR_CK_UNIT ERR_COVER ERR_SERVICE ERR_JAM ERR_PAPER ERR_TONER
+ERR_WASTONER PAP_100 PAP_75 PAP_50 PAP_25 PAP_0
+""".split()
+
+
+def render_groups(name):
+    """Return {group id: RGBA picture} for every top-level group of an SVG file."""
+    root = ET.parse(os.path.join(HERE, name)).getroot()
+    groups = [e for e in root if e.tag == "{%s}g" % SVG]
+    for g in groups:
+        root.remove(g)
+    pictures = {}
+    for g in groups:
+        root.append(g)
+        png = subprocess.run(["rsvg-convert", "--format=png"], input=ET.tostring(root),
+                             stdout=subprocess.PIPE, check=True).stdout
+        root.remove(g)
+        pictures[g.get("id")] = Image.open(io.BytesIO(png)).convert("RGBA")
+    return pictures
+
+
+def nearest(rgb, cache={}):
+    """Index of the palette entry closest to a colour; never pure black."""
+    if rgb not in cache:
+        cache[rgb] = min(range(1, 16),
+                         key=lambda i: sum((a - b) ** 2 for a, b in zip(PALETTE[i], rgb)))
+    return cache[rgb]
+
+
+def indexed(picture, background):
+    """Reduce a picture to palette indices, top row first; clear pixels get the background index."""
+    width, height = picture.size
+    data = list(picture.getdata())
+    flat = [nearest(p[:3]) if p[3] >= 128 else background for p in data]
+    return [flat[y * width:(y + 1) * width] for y in range(height)]
+
+
+def mask_of(rows):
+    return [[WHITE if p == OUTSIDE else OUTSIDE for p in row] for row in rows]
+
+
+def rle(rows, bits):
+    """Run-length compress rows (top first) as BI_RLE8 or BI_RLE4, bottom row first."""
+    out = bytearray()
+    for row in reversed(rows):
+        runs = []
+        for p in row:
+            if runs and runs[-1][0] == p and runs[-1][1] < 255:
+                runs[-1][1] += 1
+            else:
+                runs.append([p, 1])
+        pending = []  # pixels of short runs, to be written uncompressed
+
+        def flush():
+            # Uncompressed spans of four pixels and their multiples only: they are longer than two
+            # pixels, as the format asks, and fill whole words, so no reader has to skip padding.
+            while len(pending) >= 4:
+                n = min(len(pending), 252) // 4 * 4
+                part = pending[:n]
+                del pending[:n]
+                out.extend((0, n))
+                if bits == 4:
+                    out.extend(a << 4 | b for a, b in zip(part[::2], part[1::2]))
+                else:
+                    out.extend(part)
+            while pending:
+                p = pending.pop(0)
+                out.extend((1, p << 4 | p if bits == 4 else p))
+
+        for p, n in runs:
+            if n >= (6 if bits == 4 else 4):
+                flush()
+                out.extend((n, p << 4 | p if bits == 4 else p))
+            else:
+                pending.extend([p] * n)
+        flush()
+        out.extend((0, 0))
+    out.extend((0, 1))
+    return bytes(out)
+
+
+def palette_bytes():
+    return b"".join(bytes((b, g, r, 0)) for r, g, b in PALETTE)
+
+
+def bmp(rows, bits):
+    data = rle(rows, bits)
+    compression = {4: 2, 8: 1}[bits]
+    # 2835 pixels per metre is 72 dpi.
+    header = struct.pack("<IiiHHIIiiII", 40, len(rows[0]), len(rows), 1, bits, compression,
+                         len(data), 2835, 2835, len(PALETTE), 0)
+    offset = 14 + len(header) + 4 * len(PALETTE)
+    return (struct.pack("<2sIHHI", b"BM", offset + len(data), 0, 0, offset) + header +
+            palette_bytes() + data)
+
+
+def ico(rows):
+    """One 32 x 32 image of 4 bits per pixel and its 1-bit transparency mask, bottom row first."""
+    size = len(rows)
+    colour, clear = bytearray(), bytearray()
+    for row in reversed(rows):
+        colour.extend(a << 4 | b for a, b in zip(row[::2], row[1::2]))
+        bits = "".join("1" if p == OUTSIDE else "0" for p in row)
+        clear.extend(int(bits, 2).to_bytes(size // 8, "big"))
+    image = struct.pack("<IiiHHIIiiII", 40, size, 2 * size, 1, 4, 0, len(colour) + len(clear),
+                        0, 0, 0, 0) + palette_bytes() + bytes(colour) + bytes(clear)
+    entry = struct.pack("<BBBBHHII", size, size, 16, 0, 1, 4, len(image), 6 + 16)
+    return struct.pack("<HHH", 0, 1, 1) + entry + image
+
+
+def script(kind, names, folder, prefix, suffix):
+    # Pictures and icons are kept under the Japanese language only; look-ups by name find them
+    # whatever the caller's language.
+    lines = ["LANGUAGE 17, 1", ""]
+    for n in names:
+        lines.append('%s%s %s "%s/%s%s.%s"' % (prefix, n, kind, folder, prefix.lower(), n.lower(),
+                                               suffix))
+    return ("\n".join(lines) + "\n").encode("ascii")
+
+
+def expect_size(name, picture, size):
+    if picture.size != size:
+        sys.exit("%s is %d x %d pixels, not %d x %d" % ((name,) + picture.size + size))
+
+
+def build():
+    """Return {path relative to the resource folder: file contents}."""
+    files = {}
+    views = {**render_groups("front.svg"), **render_groups("back.svg")}
+    for name in LAYERS:
+        family, part = name.split("_", 1)
+        group = views[name if family == "P" else part]
+        expect_size(name, group, (320, 200))
+        if family == "P":
+            rows = indexed(group, WHITE)
+        else:
+            rows = indexed(group, OUTSIDE)
+            if family == "PB":
+                rows = mask_of(rows)
+        files["bitmaps/bmp_%s.bmp" % name.lower()] = bmp(rows, 4)
+    papers = render_groups("paper.svg")
+    for name in PAPERS:
+        expect_size(name, papers[name], (12, 12))
+        files["bitmaps/bmp_%s.bmp" % name.lower()] = bmp(indexed(papers[name], WHITE), 8)
+    icons = render_groups("icons.svg")
+    for name in ICONS:
+        expect_size(name, icons[name], (32, 32))
+        files["icons/ico_%s.ico" % name.lower()] = ico(indexed(icons[name], OUTSIDE))
+    files["bitmaps.rc"] = script("BITMAP", LAYERS + PAPERS, "bitmaps", "BMP_", "bmp")
+    files["icons.rc"] = script("ICON", ICONS, "icons", "ICO_", "ico")
+    return files
+
+
+def write(files, folder):
+    for name, data in files.items():
+        path = os.path.join(folder, name)
+        os.makedirs(os.path.dirname(path), exist_ok=True)
+        with open(path, "wb") as f:
+            f.write(data)
+
+
+def listing(folder):
+    """Everything this program is responsible for below a resource folder."""
+    names = {"bitmaps.rc", "icons.rc"}
+    for sub in ("bitmaps", "icons"):
+        path = os.path.join(folder, sub)
+        if os.path.isdir(path):
+            names.update(sub + "/" + n for n in os.listdir(path))
+    return names
+
+
+def check():
+    with tempfile.TemporaryDirectory() as fresh:
+        write(build(), fresh)
+        bad = []
+        for name in sorted(listing(fresh) | listing(RESOURCES)):
+            ours, theirs = os.path.join(RESOURCES, name), os.path.join(fresh, name)
+            if not os.path.exists(ours):
+                bad.append("missing: " + name)
+            elif not os.path.exists(theirs):
+                bad.append("not from the artwork: " + name)
+            elif not filecmp.cmp(ours, theirs, shallow=False):
+                bad.append("differs: " + name)
+    for line in bad:
+        print(line)
+    return 1 if bad else 0
+
+
+def main():
+    if sys.argv[1:] == ["--check"]:
+        return check()
+    if sys.argv[1:]:
+        sys.exit("usage: generate.py [--check]")
+    write(build(), RESOURCES)
+    return 0
+
+
+if __name__ == "__main__":
+    sys.exit(main())
