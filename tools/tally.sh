@@ -1,0 +1,100 @@
+# Runs tests and counts them; sourced by ./test.
+passed=0 failed=0 skipped=0
+
+count_failure() {
+  failed=$((failed + 1))
+  say "  FAILED: $*"
+}
+
+# Takes the counts from the closing line of a doctest program; a program without one has crashed.
+count_program() {
+  local name=$1 log=$2 counts
+  counts=$(sed -nE 's/.*test cases: *([0-9]+) \| *([0-9]+) passed \| *([0-9]+) failed \| *([0-9]+) skipped.*/\2 \3 \4/p' "$log" | tail -n 1)
+  if [ -z "$counts" ]; then
+    tail -n 30 "$log" >&2
+    count_failure "$name ended without a result"
+    return
+  fi
+  set -- $counts
+  passed=$((passed + $1)) failed=$((failed + $2)) skipped=$((skipped + $3))
+  say "  $name: $1 passed, $2 failed"
+  [ "$2" -eq 0 ] || grep -vE '^\s*$' "$log" | tail -n 60 >&2
+}
+
+# programs NAME FOLDER: the test programs of a Linux build.
+programs() {
+  local program log
+  log=$(mktemp)
+  for program in "$2"/*_tests; do
+    "$program" >"$log" 2>&1
+    count_program "$1 $(basename "$program")" "$log"
+  done
+  rm -f "$log"
+}
+
+# The Windows programs run in one visit to the Wine root, each on the virtual display.
+windows_programs() {
+  local program reason name
+  if ! reason=$(tools/wine.sh available 2>&1); then
+    [ "${CI:-}" != true ] || { count_failure "no Wine, and CI skips nothing: $reason"; return; }
+    for program in build/windows/*_tests.exe; do skipped=$((skipped + 1)); done
+    say "  skipped: the Windows programs, because $reason; run ./test as root to have them"
+    return
+  fi
+  rm -f build/windows/*.log
+  tools/wine.sh run sh -c '
+    Xvfb :99 -screen 0 1280x1024x24 >/dev/null 2>&1 &
+    export DISPLAY=:99
+    for program in build/windows/*_tests.exe; do
+      (cd build/windows && wine "$(basename "$program")") >"${program%.exe}.log" 2>&1
+    done
+    kill $!' || count_failure "the Wine root"
+  for program in build/windows/*_tests.exe; do
+    name=$(basename "$program" .exe)
+    [ -f "build/windows/$name.log" ] && count_program "windows $name" "build/windows/$name.log"
+  done
+}
+
+# fuzz_targets SECONDS: each target over its corpus, then onwards for so long. One test a target.
+fuzz_targets() {
+  local target name log seeds scratch
+  log=$(mktemp)
+  for target in build/fuzz/fuzz_*; do
+    [ -x "$target" ] && [ -f "$target" ] || continue
+    name=$(basename "$target")
+    seeds=fuzz/corpus/${name#fuzz_}
+    scratch=$(mktemp -d)
+    mkdir -p build/fuzz/findings
+    if "$target" -runs=0 "$seeds" >"$log" 2>&1 &&
+      "$target" -max_total_time="$1" -artifact_prefix=build/fuzz/findings/"$name"- -print_final_stats=1 \
+        $([ -f fuzz/reply.dict ] && echo -dict=fuzz/reply.dict) "$scratch" "$seeds" >>"$log" 2>&1; then
+      passed=$((passed + 1))
+      say "  $name: $(sed -n 's/^stat::number_of_executed_units: *//p' "$log" | tail -n 1) executions"
+    else
+      tail -n 40 "$log" >&2
+      count_failure "$name; the input is in build/fuzz/findings"
+    fi
+    rm -rf "$scratch"
+  done
+  rm -f "$log"
+}
+
+run_check() {
+  local log
+  log=$(mktemp)
+  if "$1" >"$log" 2>&1; then
+    passed=$((passed + 1))
+    say "  $(basename "$1"): passed"
+  else
+    cat "$log" >&2
+    count_failure "$1"
+  fi
+  rm -f "$log"
+}
+
+close_tally() {
+  printf '%d passed, %d failed%s\n' "$passed" "$failed" \
+    "$([ "$skipped" -eq 0 ] || printf ', %d skipped' "$skipped")"
+  [ "$failed" -eq 0 ]
+  exit
+}
