@@ -1,0 +1,49 @@
+#!/usr/bin/env python3
+"""Every language has the texts of the English file, broken into lines at the same places, and each
+can be written in the language's code page; Japanese has fifteen more."""
+import pathlib
+import re
+import sys
+
+CODE_PAGES = {"jp": "cp932", "cs": "cp1250", "hu": "cp1250", "pl": "cp1250"}  # the others: cp1252
+JAPANESE_ONLY = {404, 434, 502, 600, 604, 634, 682, 687, 689, 690, 702, 703, 706, 718, 719}
+COLOURS, DEVICES = range(930, 934), (925, 926)
+folder = pathlib.Path(__file__).resolve().parents[2] / "src/resources/strings"
+faults = []
+
+
+def read(path):
+    rows = re.findall(r'^  (\d+), "(.*)"$', path.read_text(encoding="utf-8"), re.M)
+    return {int(id): text.replace("\\n", "\n") for id, text in rows}
+
+
+def layout(text):
+    """Line ends, and the blanks before them, as the English text has them."""
+    return [re.search(" *$", line)[0] for line in text.split("\n")]
+
+
+english = read(folder / "en.rc")
+files = sorted(folder.glob("*.rc"))
+if len(files) != 15:
+    faults.append(f"{len(files)} languages")
+for path in files:
+    language, texts = path.stem, read(path)
+    wanted = set(english) | (JAPANESE_ONLY if language == "jp" else set())
+    if set(texts) != wanted or list(texts) != sorted(texts):
+        faults.append(f"{language}: ids {sorted(set(texts) ^ wanted)} differ, or their order")
+    encoded = {}
+    for id, text in texts.items():
+        try:
+            encoded[id] = text.encode(CODE_PAGES.get(language, "cp1252"))
+        except UnicodeEncodeError as error:
+            faults.append(f"{language} {id}: {error}")
+            continue
+        if id in english and layout(text) != layout(english[id]):
+            faults.append(f"{language} {id}: line ends or trailing blanks differ from the English text")
+        if bool(text) != (id != 800):
+            faults.append(f"{language} {id}: empty, or not empty")
+    if sum(len(encoded.get(id, b"")) for id in COLOURS) > 37:
+        faults.append(f"{language}: the colour names do not fit the toner suffix")
+    faults += [f"{language} {id}: longer than 30 bytes" for id in DEVICES if len(encoded.get(id, b"")) > 30]
+print("\n".join(faults))
+sys.exit(bool(faults))
