@@ -547,6 +547,8 @@ typedef struct NetOptionEntry { /* 4 bytes */
 STM_AT(NetOptionEntry, name, 0, 4);
 STM_SIZE(NetOptionEntry, 4);
 
+enum { NetModeTrays = 1, NetModeBins = 2, NetModeOptions = 3 };
+
 typedef struct NetInfoList {                  /* 16 bytes */
   int32_t entryCount;                         /*   0  0 or less: none */
   int32_t currentIndex;                       /*   4  1-based entry in use */

@@ -66,6 +66,25 @@ STM_API uint32_t STM_CALL PatGetError(void);
 STM_API uint32_t STM_CALL PatGetPrinterStatus(const PrnInfo* info, StatusRow* row);
 STM_API uint32_t STM_CALL PatGetPrinterStatus_Ex(const PrnInfoEx* info, StatusRow* row);
 
+/* ---- Network --------------------------------------------------------------------------------- */
+
+/* Fills the fields of `info` that one name list of the network layer tells; others stay.
+   mode    NetModeTrays: trayList, trayLevelList, their counts and currentTray; paper levels are per
+           cent, or 1 no paper and 41 tray missing.
+           NetModeBins: binList, binCount, currentBin, optionBits1 and optionBits2.
+           NetModeOptions: hasDuplex, option2Flag and option3Flag
+   list    entries keep their index; a null one leaves its pair as it was and is not counted, the
+           pairs after the last entry are cleared. Trays and bins beyond the 16th are not stored. A
+           null name is an unknown name, a null array an empty one. Names compare case-sensitively;
+           unknown trays become 0 (41 with flag 0x4), unknown bins and media 0, unknown options
+           nothing. `currentIndex` beyond the entries leaves the tray or bin in use as it was
+   Result  1 filled, 0 failed and `info` untouched; PatGetError: 2 `info` or `list` is null. An
+           unknown mode writes no error value */
+STM_API uint32_t STM_CALL PatGetInfoFromNet(PrnInfo* info, uint32_t mode, const NetInfoList* list);
+
+/* The status code for a status value of the network layer: the same value. */
+STM_API uint32_t STM_CALL PatGetStatusFromNet(uint32_t status);
+
 #ifdef __cplusplus
 } /* extern "C" */
 #endif
