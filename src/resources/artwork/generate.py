@@ -68,8 +68,11 @@ def render_groups(name):
     pictures = {}
     for g in groups:
         root.append(g)
-        png = subprocess.run(["rsvg-convert", "--format=png"], input=ET.tostring(root),
-                             stdout=subprocess.PIPE, check=True).stdout
+        try:
+            png = subprocess.run(["rsvg-convert", "--format=png"], input=ET.tostring(root),
+                                 stdout=subprocess.PIPE, check=True).stdout
+        except FileNotFoundError:
+            sys.exit("rsvg-convert is missing: install the Debian package librsvg2-bin")
         root.remove(g)
         pictures[g.get("id")] = Image.open(io.BytesIO(png)).convert("RGBA")
     return pictures
@@ -174,6 +177,13 @@ def script(kind, names, folder, prefix, suffix):
     return ("\n".join(lines) + "\n").encode("ascii")
 
 
+def expect_groups(pictures, names):
+    """Stop on a layer that is not drawn and on a drawing that no layer uses."""
+    wrong = sorted(set(pictures) ^ set(names))
+    if wrong:
+        sys.exit("group without a layer, or layer without a group: " + ", ".join(wrong))
+
+
 def expect_size(name, picture, size):
     if picture.size != size:
         sys.exit("%s is %d x %d pixels, not %d x %d" % ((name,) + picture.size + size))
@@ -183,9 +193,11 @@ def build():
     """Return {path relative to the resource folder: file contents}."""
     files = {}
     views = {**render_groups("front.svg"), **render_groups("back.svg")}
+    groups = {n: n if n.startswith("P_") else n.split("_", 1)[1] for n in LAYERS}
+    expect_groups(views, groups.values())
     for name in LAYERS:
-        family, part = name.split("_", 1)
-        group = views[name if family == "P" else part]
+        family = name.split("_", 1)[0]
+        group = views[groups[name]]
         expect_size(name, group, (320, 200))
         if family == "P":
             rows = indexed(group, WHITE)
@@ -195,10 +207,12 @@ def build():
                 rows = mask_of(rows)
         files["bitmaps/bmp_%s.bmp" % name.lower()] = bmp(rows, 4)
     papers = render_groups("paper.svg")
+    expect_groups(papers, PAPERS)
     for name in PAPERS:
         expect_size(name, papers[name], (12, 12))
         files["bitmaps/bmp_%s.bmp" % name.lower()] = bmp(indexed(papers[name], WHITE), 8)
     icons = render_groups("icons.svg")
+    expect_groups(icons, ICONS)
     for name in ICONS:
         expect_size(name, icons[name], (32, 32))
         files["icons/ico_%s.ico" % name.lower()] = ico(indexed(icons[name], OUTSIDE))
