@@ -22,6 +22,20 @@ typedef uint32_t UINT;
 typedef int32_t BOOL;
 typedef void* HGLOBAL;
 typedef struct HINSTANCE__* HINSTANCE;
+typedef struct HWND__* HWND;
+typedef struct HBITMAP__* HBITMAP;
+typedef struct HICON__* HICON;
+typedef void* HGDIOBJ;
+
+typedef struct BITMAP { /* 24 bytes */
+  int32_t bmType;
+  int32_t bmWidth;
+  int32_t bmHeight;
+  int32_t bmWidthBytes;
+  uint16_t bmPlanes;
+  uint16_t bmBitsPixel;
+  void* bmBits;
+} BITMAP;
 
 #define ERROR_SUCCESS 0
 #define ERROR_INVALID_HANDLE 6
@@ -42,6 +56,53 @@ STM_HOST_API HGLOBAL STM_CALL GlobalAlloc(UINT flags, uint32_t bytes);
 
 /* Releases the block; null is allowed. Result: null. */
 STM_HOST_API HGLOBAL STM_CALL GlobalFree(HGLOBAL block);
+
+/* ---- Bitmaps and icons -----------------------------------------------------------------------
+   What PatLoadBitmap and PatLoadIcon hand out. Handles of windows, bitmaps and icons are numbers,
+   not addresses: a null, foreign or released one is refused. A process can have 4096 at a time. */
+
+/* Releases a bitmap. Result: 1, or 0 when there is no such bitmap or a device context holds it. */
+STM_HOST_API BOOL STM_CALL DeleteObject(HGDIOBJ object);
+
+/* Describes a bitmap as a display with 32 bits per pixel has it.
+   size    bytes at `buffer`, at least sizeof(BITMAP)
+   buffer  null asks for the size alone
+   Result  sizeof(BITMAP), or 0 when there is no such bitmap or `size` is too small */
+STM_HOST_API int32_t STM_CALL GetObjectA(HGDIOBJ object, int32_t size, void* buffer);
+
+/* Writes a bitmap's pixels, 0x00RRGGBB, top row first; GetObjectA tells how many.
+   count   pixels that `pixels` can take
+   Result  1, or 0 and nothing written when there is no such bitmap or it has more pixels */
+STM_HOST_API BOOL STM_CALL HostReadBitmap(HBITMAP bitmap, uint32_t* pixels, uint32_t count);
+
+/* Writes an icon's pixels, 0xFFRRGGBB or 0 where it is transparent, top row first.
+   count   pixels that `pixels` can take
+   width, height  receive the size in pixels, whatever `count` is; 32 x 32 for the library's icons
+   Result  1, or 0 and no pixel written when there is no such icon or it has more pixels */
+STM_HOST_API BOOL STM_CALL HostReadIcon(HICON icon, uint32_t* pixels, uint32_t count,
+                                        int32_t* width, int32_t* height);
+
+/* ---- Picture dialog --------------------------------------------------------------------------
+   The dialog that PatDrawPrinterBitmap draws into: controls in memory, nothing on a screen. A
+   control must not be drawn or read on one thread while another draws to it. */
+
+/* An empty dialog, released with HostDestroyDialog; null without memory. */
+STM_HOST_API HWND STM_CALL HostCreateDialog(void);
+
+/* Adds a white picture control of `width` x `height` pixels, 1 to 32767 each.
+   Result  1; 0 for no such dialog, a size outside the limits, an identifier in use, no memory */
+STM_HOST_API BOOL STM_CALL HostAddPicture(HWND dialog, int32_t controlId, int32_t width,
+                                          int32_t height);
+
+/* The pixels of a picture control, 0x00RRGGBB, top row first, `width` pixels a row. The caller may
+   write them. They belong to the dialog and live as long.
+   width, height  receive the control's size; null when it is not wanted
+   Result  null when there is no such dialog or control */
+STM_HOST_API uint32_t* STM_CALL HostPicturePixels(HWND dialog, int32_t controlId, int32_t* width,
+                                                  int32_t* height);
+
+/* Releases a dialog with its controls. Result: 1, or 0 when there is no such dialog. */
+STM_HOST_API BOOL STM_CALL HostDestroyDialog(HWND dialog);
 
 #ifdef __cplusplus
 } /* extern "C" */
