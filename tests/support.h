@@ -98,6 +98,16 @@ inline uint32_t Parse(Record& record, std::string_view reply) {
   return SetPrnInfoExFromReadbackCmd(&record, bytes.data(), bytes.size());
 }
 
+// Calls `visit` with every beginning of `bytes`, the empty one and the whole included, each ending
+// where readable memory ends.
+template <class Visit>
+void ForEveryCut(std::string_view bytes, Visit visit) {
+  for (size_t length = 0; length <= bytes.size(); ++length) {
+    GuardedBytes cut(bytes.substr(0, length));
+    visit(cut);
+  }
+}
+
 // A list's keys or values in order, for comparison with what is expected.
 template <class Node, class Value>
 std::vector<uint32_t> Values(const Node* head, Value Node::*field) {

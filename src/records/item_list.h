@@ -100,6 +100,17 @@ Node* ResizeItemList(Node* head, uint32_t oldCount, uint32_t newCount) {
   return head;
 }
 
+// Makes room for `newCount` entries: a list of another count is released and built anew, one of the
+// same count kept with its contents. Without memory the list is empty and its count 0, so that the
+// next time builds it.
+template <class Node>
+void RebuildItemList(Node*& head, uint32_t& count, uint32_t newCount) {
+  if (newCount == count) return;
+  FreeItemList(head);
+  head = AllocItemList<Node>(newCount);
+  count = head ? newCount : 0;
+}
+
 // Unlinks and releases `node`; a node of another list is left alone. Result: the head.
 template <class Node>
 Node* RemoveItem(Node* head, Node* node) {

@@ -55,12 +55,7 @@ uint32_t CountEntries(const BlockCopy& copy) {
 template <class Node>
 uint16_t ParseEntries(const Input& block, PrnInfoEx* record, const EntryRule<Node>& rule) {
   const BlockCopy copy = CopyBlock(block);
-  const uint32_t count = CountEntries(copy);
-  if (count != record->*rule.count) {
-    FreeItemList(record->*rule.list);
-    record->*rule.list = AllocItemList<Node>(count);
-    record->*rule.count = record->*rule.list ? count : 0;
-  }
+  RebuildItemList(record->*rule.list, record->*rule.count, CountEntries(copy));
   Node* cursor = record->*rule.list;
 
   Input fields = FieldsOf(copy);

@@ -38,11 +38,10 @@ const BlockRow* FindBlock(int8_t letter) {
 
 // Whether the block's end has arrived: its LF, for a status block also the end marker. A reply that
 // was cut off inside a block says nothing reliable in it.
-bool IsComplete(const Input& rest, int8_t letter) {
-  if (std::memchr(rest.position, kLineFeed, Left(rest))) return true;
-  if (letter != 'S') return false;
-  for (Input at = rest; Left(at) > 1; Skip(at, 1)) {
-    if (BlockLetter(at) == kEndLetter) return true;
+bool IsComplete(const Input& block, int8_t letter) {
+  if (letter != 'S') return std::memchr(block.position, kLineFeed, Left(block)) != nullptr;
+  for (Input at = block; Left(at) > 0; Skip(at, 1)) {
+    if (Peek(at) == kLineFeed || BlockLetter(at) == kEndLetter) return true;
   }
   return false;
 }

@@ -133,13 +133,8 @@ uint16_t ParseStatusBlock(const Input& block, PrnInfoEx* record) {
   char codes[kFieldLimit];
   const uint32_t codesLength = ScanField(fields, kCarriageReturn, kFieldLimit, codes);
   Skip(fields, codesLength);
-  const uint32_t count = CountCodes(codes, codesLength);
-  if (count != record->statusCount) {
-    FreeItemList(record->statusList);
-    record->statusList = AllocItemList<StatusNode>(count);
-  }
+  RebuildItemList(record->statusList, record->statusCount, CountCodes(codes, codesLength));
   record->hasError = 0;
-  record->statusCount = record->statusList ? count : 0;
 
   Input codeFields{codes, codes + codesLength};
   for (StatusNode* node = record->statusList; node; node = node->next) {
@@ -155,11 +150,11 @@ uint16_t ParseStatusBlock(const Input& block, PrnInfoEx* record) {
 
   const auto tray = ReadField<kFieldLimit>(fields, kCarriageReturn, kEscape);
   record->currentTray = static_cast<uint16_t>(LookupNameCode(tray.text, kTrayLetters));
-  if (tray.delimiter == kCarriageReturn) {
+  if (tray.delimiter == kEscape) {
+    record->currentBin = 0;
+  } else {
     const auto bin = ReadField<kFieldLimit>(fields, kEscape);
     record->currentBin = static_cast<uint16_t>(LookupNameCode(bin.text, kBinNumbers));
-  } else {
-    record->currentBin = 0;
   }
   return copy.consumed;
 }

@@ -1,0 +1,108 @@
+#include "records/item_list.h"
+
+#include "doctest/doctest.h"
+#include "records/name_table.h"
+#include "support.h"
+
+namespace {
+
+using Codes = std::vector<uint32_t>;
+
+// A list of options with these codes.
+OptionNode* OptionsOf(const Codes& codes) {
+  OptionNode* head = nullptr;
+  OptionNode** link = &head;
+  for (uint32_t code : codes) {
+    *link = stm::NewItem<OptionNode>();
+    (*link)->optionCode = static_cast<uint16_t>(code);
+    link = &(*link)->next;
+  }
+  return head;
+}
+
+Codes CodesOf(const OptionNode* head) {
+  return test::Values(head, &OptionNode::optionCode);
+}
+
+}  // namespace
+
+TEST_CASE("a fresh list has a node at least, each of its own size") {
+  TrayNode* one = stm::AllocItemList<TrayNode>(0);
+  REQUIRE(one);
+  CHECK(one->next == nullptr);
+  CHECK(one->nodeSize == 20);
+  CHECK(stm::FreeItemList(one) == nullptr);
+  OptionNode* three = stm::AllocItemList<OptionNode>(3);
+  CHECK(test::Values(three, &OptionNode::nodeSize) == Codes{12, 12, 12});
+  CHECK(stm::CountItems(three) == 3);
+  stm::FreeItemList(three);
+}
+
+TEST_CASE("a resized list keeps its first nodes and trusts no count") {
+  struct {
+    const char* why;
+    Codes held;
+    uint32_t oldCount;
+    uint32_t newCount;
+    Codes expected;
+  } const rows[] = {
+      {"grow", {7, 8, 9}, 3, 5, {7, 8, 9, 0, 0}},
+      {"shrink to the head", {7, 8, 9}, 3, 1, {7}},
+      {"equal", {7, 8}, 2, 2, {7, 8}},
+      {"from nothing", {}, 0, 2, {0, 0}},
+      {"to nothing", {7, 8}, 2, 0, {}},
+      {"nothing to nothing", {}, 0, 0, {}},
+      {"longer than its count", {7, 8, 9}, 1, 2, {7, 8, 9}},
+      {"shorter than its count, grow", {7}, 3, 4, {7, 0, 0, 0}},
+      {"shorter than its count, shrink", {7}, 9, 5, {7}},
+  };
+  for (const auto& row : rows) {
+    CAPTURE(row.why);
+    OptionNode* head = OptionsOf(row.held);
+    OptionNode* resized = stm::ResizeItemList(head, row.oldCount, row.newCount);
+    CHECK(CodesOf(resized) == row.expected);
+    if (head && row.newCount > 0) CHECK(resized == head);
+    stm::FreeItemList(resized);
+  }
+}
+
+TEST_CASE("nodes are found by index and by their 16-bit key") {
+  OptionNode* head = OptionsOf({0, 4, 4, 1});
+  CHECK(stm::ItemAt(head, 0) == head);
+  CHECK(stm::ItemAt(head, 3)->optionCode == 1);
+  CHECK(stm::ItemAt(head, 4) == nullptr);
+  CHECK(stm::FindItem(head, 0) == head);
+  CHECK(stm::FindItem(head, 4) == head->next);
+  CHECK(stm::FindItem(head, 9) == nullptr);
+  CHECK(stm::FindItem(head, 0x10004) == nullptr);
+  stm::FreeItemList(head);
+}
+
+TEST_CASE("a removed node leaves the others linked; a stranger is left alone") {
+  OptionNode* head = OptionsOf({1, 2, 3});
+  OptionNode* stranger = OptionsOf({2});
+  CHECK(stm::RemoveItem(head, stranger) == head);
+  CHECK(CodesOf(head) == Codes{1, 2, 3});
+  CHECK(CodesOf(stranger) == Codes{2});
+  head = stm::RemoveItem(head, head->next);
+  CHECK(CodesOf(head) == Codes{1, 3});
+  head = stm::RemoveItem(head, head);
+  CHECK(CodesOf(head) == Codes{3});
+  CHECK(stm::RemoveItem(head, head) == nullptr);
+  stm::FreeItemList(stranger);
+}
+
+TEST_CASE("a name that no row holds gets the closing row's code") {
+  constexpr stm::NameCode table[] = {{"A", 1}, {"AB", 2}, {"A", 3}, {nullptr, 255}};
+  constexpr stm::NameCode empty[] = {{nullptr, 9}};
+  struct {
+    const char* name;
+    const stm::NameCode* table;
+    int32_t code;
+  } const rows[] = {
+      {"A", table, 1},     {"AB", table, 2}, {"a", table, 255},    {"", table, 255},
+      {"ABC", table, 255}, {"A", empty, 9},  {nullptr, table, -1}, {"A", nullptr, -1},
+  };
+  for (const auto& row : rows)
+    CHECK(stm::LookupNameCode(row.name, row.table) == row.code);
+}

@@ -1,0 +1,167 @@
+// Replies and the records they leave.
+#include "describe.h"
+#include "doctest/doctest.h"
+#include "support.h"
+
+using namespace std::string_literals;
+
+namespace {
+
+struct ReplyCase {
+  const char* why;
+  std::vector<std::string> replies;  // one after the other into one record
+  std::string expected;
+};
+
+const ReplyCase kReplies[] = {
+    {"the sample",
+     {"\x1BS\r0\r0\r1\r1\n\x1BT\r1\r5\n\x1B "},
+     "status[0] online tray=3 trays[3:7:0] bin=1"},
+    {"the end marker alone", {"\x1B \0"s}, ""},
+    {"a zero byte where a block should begin", {"\x1BT\r1\r5\n\0\x1BL\r1\r1\n"s}, "trays[3:7:0]"},
+    {"blocks after the end marker", {"\x1B \x1BL\r1\r1\n"}, "bins[1:1]"},
+    {"an unknown letter ends the walk", {"\x1BL\r1\r1\n\x1BH\n\x1BT\r1\r5\n"}, "bins[1:1]"},
+
+    {"two codes", {"\x1BS\r4,5\r0\r2\r3\n"}, "status[4 5] online tray=4 bin=3"},
+    {"flag 1 is offline", {"\x1BS\r4,5\r1\r2\r3\n"}, "status[4 5] tray=4 bin=3"},
+    {"a flag that is no digit is online", {"\x1BS\r4\rx\r2\r3\n"}, "status[4] online tray=4 bin=3"},
+    {"no bin", {"\x1BS\r0\r0\r1\r9\n\x1BS\r0\r0\rT\n"}, "status[0] online tray=1"},
+    {"unknown tray and bin", {"\x1BS\r0\r0\rX\r16\n"}, "status[0] online bin=255"},
+    {"an error among the codes", {"\x1BS\r4,25\r0\rM\n"}, "status[4 25] online error tray=2"},
+    {"an unlisted code is an error", {"\x1BS\r1\r0\rM\n"}, "status[1] online error tray=2"},
+    {"the error flag goes again",
+     {"\x1BS\r25\r0\rM\n", "\x1BS\r18\r0\rM\n"},
+     "status[18] online tray=2"},
+    {"a code that is no number, a trailing comma",
+     {"\x1BS\rx,5,\r0\r1\n"},
+     "status[0 5 0] online tray=3"},
+    {"the end marker ends a status block too",
+     {"\x1BS\r0\r0\r1\r2\x1B \x1BL\r1\r1\n"},
+     "status[0] online tray=3 bin=2 bins[1:1]"},
+    {"no field at all", {"\x1BS\r4\r1\r1\n", "\x1BS\n"}, "status(0)[0] online bin=255"},
+    {"codes over 63 bytes: the later fields are read from inside them",
+     {"\x1BS\r" + std::string(150, '4') + "\r0\r1\r1\n"},
+     "bin=255"},
+    {"a status block of 256 bytes",
+     {"\x1BS\r4\r0\r1\r" + std::string(246, '1') + "\n\x1BL\r1\r1\n"},
+     "status[4] online tray=3 bin=255 bins[1:1]"},
+    {"a status block of 257 bytes takes 256: the walk ends",
+     {"\x1BS\r4\r0\r1\r" + std::string(248, '1') + "\n\x1BL\r1\r1\n"},
+     "status[4] online tray=3 bin=255"},
+
+    {"paper sizes", {"\x1BT\r1\r5\r2\r-1\n"}, "trays[3:7:0 4:1:0]"},
+    {"levels go to the trays that are there",
+     {"\x1BT\r1\r5\r2\r-1\n\x1BZ\r2\r0\r1\r50\n"},
+     "trays[3:7:50 4:1:0]"},
+    {"another number of entries builds the list anew",
+     {"\x1BT\r1\r5\r2\r-1\n", "\x1BZ\r1\r50\n"},
+     "trays[3:0:50]"},
+    {"a new id takes the head of a reused list",
+     {"\x1BT\r1\r5\r2\r6\n", "\x1BT\r3\r8\r1\r9\n"},
+     "trays[5:10:0 3:11:0]"},
+    {"a repeated id updates its node", {"\x1BT\r1\r5\r1\r6\n"}, "trays[3:8:0 0:0:0]"},
+    {"unknown tray and size", {"\x1BT\rQ\r999\n"}, "trays[0:0:0]"},
+    {"a half entry too many is dropped", {"\x1BT\r1\r5\r2\n"}, "trays[3:7:0]"},
+    {"no entries after some", {"\x1BT\r1\r5\n\x1BT\n"}, "trays(0)[0:0:0]"},
+    {"an id of six characters and more", {"\x1BL\r1234567\r1\n"}, "bins[255:0]"},
+    {"a zero byte among the entries ends them", {"\x1BT\r1\r5\r\0\r6\n"s}, "trays[3:7:0 0:0:0]"},
+    {"bins", {"\x1BL\r16\r1\r15\r2\n"}, "bins[255:1 15:2]"},
+    {"a number keeps its low 16 bits", {"\x1BZ\r1\r65537\n"}, "trays[3:0:1]"},
+    {"a block of 255 bytes",
+     {"\x1BL\r1\r" + std::string(249, '7') + "\n\x1BT\r1\r5\n"},
+     "trays[3:7:0] bins[1:56881]"},
+    {"a block of 256 bytes takes 255: the walk ends",
+     {"\x1BL\r1\r" + std::string(250, '7') + "\n\x1BT\r1\r5\n"},
+     "bins[1:56881]"},
+};
+
+// The part of a reply that its whole blocks make up.
+std::string_view WholeBlocks(std::string_view reply) {
+  size_t end = 0;
+  while (reply.size() - end > 1 && reply[end] == '\x1B') {
+    const std::string_view rest = reply.substr(end);
+    const size_t marker = rest.find("\x1B ");
+    const size_t line = rest.find('\n');
+    if (marker == 0) {
+      end += 2;
+    } else if (rest[1] == 'S' && marker < line) {
+      end += marker + 2;
+    } else if (line != rest.npos) {
+      end += line + 1;
+    } else {
+      break;
+    }
+  }
+  return reply.substr(0, end);
+}
+
+}  // namespace
+
+TEST_CASE("a reply updates the record block by block") {
+  for (const ReplyCase& row : kReplies) {
+    CAPTURE(row.why);
+    test::Record record;
+    for (const std::string& reply : row.replies)
+      CHECK(test::Parse(record, reply) == 1);
+    CHECK(test::Describe(record) == row.expected);
+  }
+}
+
+TEST_CASE("a reply that is cut off says what its whole blocks say, and nothing past it is read") {
+  for (const ReplyCase& row : kReplies) {
+    for (const std::string& reply : row.replies) {
+      test::ForEveryCut(reply, [&](test::GuardedBytes& cut) {
+        CAPTURE(row.why);
+        CAPTURE(cut.size());
+        const std::string_view whole = WholeBlocks({cut.data(), size_t(cut.size())});
+        for (const char* earlier :
+             {"", "\x1BS\r1,2,3\r1\r5\r7\n\x1BT\r1\r5\r2\r5\n\x1BL\r1\r5\n"}) {
+          test::Record record, expected;
+          test::Parse(record, earlier);
+          test::Parse(expected, earlier);
+          CHECK(SetPrnInfoExFromReadbackCmd(&record, cut.data(), cut.size()) == 1);
+          test::Parse(expected, whole);
+          CHECK(test::Describe(record) == test::Describe(expected));
+        }
+      });
+    }
+  }
+}
+
+TEST_CASE("a list of the same length keeps its nodes") {
+  test::Record record;
+  test::Parse(record, "\x1BS\r4,5\r0\r1\n\x1BT\r1\r5\r2\r5\n");
+  const StatusNode* status = record.statusList;
+  const TrayNode* tray = record.trayList;
+  test::Parse(record, "\x1BS\r6,8\r0\r1\n\x1BZ\r1\r5\r2\r5\n");
+  CHECK(record.statusList == status);
+  CHECK(record.trayList == tray);
+  CHECK(test::Values(record.statusList, &StatusNode::code) == std::vector<uint32_t>{6, 8});
+}
+
+TEST_CASE("counts that a caller made up never lead past a chain") {
+  for (uint32_t count : {1u, 2u, 9u, 0xFFFFFFFFu}) {
+    CAPTURE(count);
+    test::Record record;
+    test::Parse(record, "\x1BS\r4\r0\r1\n\x1BT\r1\r5\n\x1BL\r1\r5\n");
+    record.statusCount = record.trayCount = record.binCount = count;
+    test::Parse(record, "\x1BS\r6,8\r0\r1\n\x1BT\r1\r5\r2\r5\n\x1BL\r1\r5\r2\r5\n");
+    const size_t nodes = count == 2 ? 1 : 2;
+    CHECK(test::Values(record.statusList, &StatusNode::code).size() == nodes);
+    CHECK(test::Values(record.trayList, &TrayNode::trayId).size() == nodes);
+    CHECK(test::Values(record.binList, &BinNode::binId).size() == nodes);
+  }
+}
+
+TEST_CASE("a call that cannot walk leaves the record alone") {
+  test::Record record;
+  test::Parse(record, kReplies[0].replies[0]);
+  const std::string before = test::Describe(record);
+  CHECK(test::Parse(record, "") == 1);
+  CHECK(test::Parse(record, " \x1BL\r1\r1\n") == 0);
+  CHECK(SetPrnInfoExFromReadbackCmd(&record, "\x1BL\r1\r1\n", -1) == 1);
+  CHECK(SetPrnInfoExFromReadbackCmd(&record, "\x1BL\r1\r1\n", INT32_MIN) == 1);
+  CHECK(SetPrnInfoExFromReadbackCmd(&record, nullptr, 9) == 0);
+  CHECK(SetPrnInfoExFromReadbackCmd(nullptr, "\x1BL\r1\r1\n", 7) == 0);
+  CHECK(test::Describe(record) == before);
+}
