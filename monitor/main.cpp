@@ -1,0 +1,179 @@
+// stmon: asks a colour laser printer how it is, and says it.
+#include <cstdlib>
+
+#include "CLI/CLI.hpp"
+#include "console.h"
+#include "options.h"
+#include "reports.h"
+#include "safe_text.h"
+#include "simulated_printer.h"
+#include "snapshot.h"
+
+namespace stmon {
+namespace {
+
+constexpr int kTrouble = static_cast<int>(Verdict::Unknown);
+
+constexpr const char* kFooter =
+    "\nWithout PRINTER a built-in simulated printer is asked, over a real connection.\n"
+    "Exit status: 0 fine, 1 needs attention soon, 2 cannot print, 3 unknown, no response or wrong "
+    "usage.\n"
+    "Examples:\n"
+    "  stmon 192.0.2.10                      ask a printer\n"
+    "  stmon --scenario no-paper --json      ask the simulated one, as JSON\n"
+    "  stmon --simulate 9100 --scenario list name what can be simulated";
+
+int Fail(const std::string& message) {
+  Complain("stmon: " + message + "\n");
+  return kTrouble;
+}
+
+void Describe(CLI::App& app, Options& options) {
+  app.name("stmon");
+  app.description("Asks a colour laser printer how it is.");
+  app.footer(kFooter);
+  app.add_option("PRINTER", options.printer, "HOST or HOST:PORT, port 9100 unless given")
+      ->option_text(" ");
+  app.add_option("--reply", options.reply_file, "show a saved reply instead of asking a printer")
+      ->option_text("FILE  ('-': standard input)");
+  app.add_option("--save-reply", options.save_file, "keep the reply for later")
+      ->option_text("FILE");
+  app.add_flag("--json", options.json, "one JSON object on standard output");
+  app.add_flag("--raw", options.raw, "show the bytes of query and reply, block by block");
+  app.add_option("--timeout", options.timeout, "for the whole poll, default 5")
+      ->option_text("SECONDS")
+      ->check(CLI::Range(0.1, 3600.0));
+  app.add_option("--simulate", options.simulate, "be a simulated printer at 127.0.0.1, until ended")
+      ->option_text("PORT");
+  app.add_option("--scenario", options.scenario,
+                 "what the simulated printer is like; 'list' names all")
+      ->option_text("NAME|FILE");
+  app.set_version_flag("--version", std::string("stmon ") + STMON_VERSION);
+}
+
+// Result: -1 to go on, else the exit status.
+int ParseCommandLine(int count, char** values, Options& options) {
+  CLI::App app;
+  Describe(app, options);
+  auto arguments = Arguments(count, values);
+  try {
+    if (!arguments.empty()) arguments.erase(arguments.begin());
+    std::reverse(arguments.begin(), arguments.end());
+    app.parse(std::move(arguments));
+  } catch (const CLI::CallForHelp&) {
+    Print(app.help());
+    return 0;
+  } catch (const CLI::CallForVersion& version) {
+    Print(std::string(version.what()) + "\n");
+    return 0;
+  } catch (const CLI::ParseError& error) {
+    return Fail(CleanUtf8(error.what()) + "\n'stmon --help' shows the options.");
+  }
+  return -1;
+}
+
+int ListScenarios() {
+  std::string text;
+  for (const NamedScenario* row = kNamedScenarios; row->name; ++row) {
+    std::string name = row->name;
+    name.resize(16, ' ');
+    text += name + row->about + "\n";
+  }
+  Print(text);
+  return 0;
+}
+
+int Simulate(const Options& options, const Scenario& scenario) {
+  Target target;
+  if (!ParseTarget("127.0.0.1:" + options.simulate, target))
+    return Fail("--simulate " + EscapeBytes(options.simulate) + ": a port is 1 to 65535.");
+  std::string trouble;
+  const auto printer = StartPrinter(scenario, target.port, trouble);
+  if (!printer)
+    return Fail("cannot listen at " + TargetText(target) + ": " + CleanUtf8(trouble) + ".");
+  Print("Simulated printer at " + TargetText(target) + ", scenario '" + CleanUtf8(scenario.name) +
+        "'. End it with Ctrl-C.\n");
+  ServeForever(*printer);
+  return 0;
+}
+
+Snapshot AskFile(const Options& options) {
+  const std::string source =
+      options.reply_file == "-" ? "standard input" : "saved reply " + options.reply_file;
+  std::string bytes;
+  const std::string trouble = ReadWholeFile(options.reply_file, kLongestReply, bytes);
+  Exchange exchange;
+  if (trouble.empty()) {
+    exchange = JudgeReply(std::move(bytes));
+  } else {
+    exchange.outcome = Outcome::Unreadable;
+    exchange.detail = trouble;
+  }
+  return ReadExchange(source, "", std::move(exchange));
+}
+
+Snapshot AskNetwork(const Options& options, const Target& target, const std::string& source) {
+  const auto timeout = std::chrono::milliseconds(static_cast<int64_t>(options.timeout * 1000));
+  const auto begin = std::chrono::steady_clock::now();
+  std::string query = BuildQuery();
+  Exchange exchange = AskPrinter(target, query, timeout);
+  Snapshot snapshot = ReadExchange(source, std::move(query), std::move(exchange));
+  snapshot.took = std::chrono::duration_cast<std::chrono::milliseconds>(
+      std::chrono::steady_clock::now() - begin);
+  return snapshot;
+}
+
+int Report(const Options& options, const Snapshot& snapshot) {
+  int status = static_cast<int>(snapshot.verdict);
+  if (!options.save_file.empty() && !snapshot.exchange.reply.empty()) {
+    const std::string wrong = WriteWholeFile(options.save_file, snapshot.exchange.reply);
+    if (!wrong.empty())
+      status = Fail("cannot write " + CleanUtf8(options.save_file) + ": " + wrong + ".");
+  }
+  if (options.json) {
+    Print(JsonReport(snapshot));
+  } else if (snapshot.told) {
+    Print(TextReport(snapshot));
+  }
+  if (options.raw) Print((options.json ? "" : "\n") + RawReport(snapshot));
+  if (!snapshot.trouble.empty()) Fail(CleanUtf8(snapshot.source + ": " + snapshot.trouble));
+  return status;
+}
+
+int PollSimulated(const Options& options, const Scenario& scenario) {
+  std::string trouble;
+  const auto printer = StartPrinter(scenario, 0, trouble);
+  if (!printer) return Fail("cannot start the simulated printer: " + CleanUtf8(trouble) + ".");
+  const Target target{"127.0.0.1", PrinterPort(*printer)};
+  return Report(options,
+                AskNetwork(options, target, "simulated printer, scenario '" + scenario.name + "'"));
+}
+
+int Run(const Options& options) {
+  if (options.scenario == "list") return ListScenarios();
+  Scenario scenario;
+  const bool simulated = options.printer.empty() && options.reply_file.empty();
+  if (simulated) {
+    const std::string wrong = LoadScenario(options.scenario, scenario);
+    if (!wrong.empty()) return Fail(wrong);
+  }
+  if (!options.simulate.empty()) return Simulate(options, scenario);
+  if (!options.reply_file.empty()) return Report(options, AskFile(options));
+  if (simulated) return PollSimulated(options, scenario);
+  Target target;
+  if (!ParseTarget(options.printer, target)) {
+    return Fail("'" + EscapeBytes(options.printer) +
+                "' is not a printer's address; HOST, HOST:PORT or [IPV6]:PORT are.");
+  }
+  return Report(options, AskNetwork(options, target, TargetText(target)));
+}
+
+}  // namespace
+}  // namespace stmon
+
+int main(int count, char** values) {
+  stmon::PrepareStreams();
+  stmon::Options options;
+  const int parsed = stmon::ParseCommandLine(count, values, options);
+  return parsed >= 0 ? parsed : stmon::Run(options);
+}

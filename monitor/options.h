@@ -1,0 +1,19 @@
+// What the command line asks for.
+#pragma once
+
+#include <string>
+
+namespace stmon {
+
+struct Options {
+  std::string printer;     // HOST[:PORT]; empty: the built-in simulated printer
+  std::string reply_file;  // a saved reply instead of a printer
+  std::string save_file;   // where to keep the reply
+  std::string scenario = "ready";
+  std::string simulate;  // port to be a simulated printer at
+  double timeout = 5;    // seconds
+  bool json = false;
+  bool raw = false;
+};
+
+}  // namespace stmon

@@ -1,0 +1,22 @@
+// Text that came from outside, made fit for a terminal, a JSON document or a metrics file.
+#pragma once
+
+#include <string>
+#include <string_view>
+
+namespace stmon {
+
+// Every byte that is not printable ASCII written as \xNN, and a backslash as two: for bytes of
+// which nobody knows the code page.
+std::string EscapeBytes(std::string_view bytes);
+
+// UTF-8 with control characters (line feed excepted) and broken sequences replaced by U+FFFD.
+std::string CleanUtf8(std::string_view text);
+
+// "1B 54 0A"
+std::string HexBytes(std::string_view bytes);
+
+// Columns that the text takes in a terminal: two for a full-width character, one for the others.
+size_t DisplayWidth(std::string_view utf8);
+
+}  // namespace stmon

@@ -1,0 +1,108 @@
+// Whole polls over a real loopback connection.
+#include <chrono>
+
+#include "doctest/doctest.h"
+#include "reports.h"
+#include "simulated_printer.h"
+#include "snapshot.h"
+
+using stmon::Outcome;
+using stmon::Verdict;
+
+namespace {
+
+constexpr std::chrono::milliseconds kTimeout(1500);
+
+stmon::Snapshot Poll(const std::string& name, std::chrono::milliseconds timeout = kTimeout) {
+  stmon::Scenario scenario;
+  REQUIRE(stmon::LoadScenario(name, scenario) == "");
+  std::string trouble;
+  const auto printer = stmon::StartPrinter(scenario, 0, trouble);
+  REQUIRE(printer);
+  const std::string query = stmon::BuildQuery();
+  const stmon::Target target{"127.0.0.1", stmon::PrinterPort(*printer)};
+  return stmon::ReadExchange("test", query, stmon::AskPrinter(target, query, timeout));
+}
+
+struct PollCase {
+  const char* scenario;
+  Outcome outcome;
+  Verdict verdict;
+};
+
+const PollCase kPolls[] = {
+    {"ready", Outcome::Answered, Verdict::Fine},
+    {"no-paper", Outcome::Answered, Verdict::CannotPrint},
+    {"offline", Outcome::Answered, Verdict::CannotPrint},
+    {"service-call", Outcome::Answered, Verdict::CannotPrint},
+    {"one-byte", Outcome::Answered, Verdict::Fine},
+    {"two-replies", Outcome::Answered, Verdict::Fine},
+    {"cut-off", Outcome::CutOff, Verdict::Unknown},
+    {"silence", Outcome::Silent, Verdict::Unknown},
+    {"close", Outcome::ClosedEarly, Verdict::Unknown},
+    {"reset", Outcome::Reset, Verdict::Unknown},
+    {"garbage", Outcome::NotAReply, Verdict::Unknown},
+    {"flood", Outcome::TooLong, Verdict::Unknown},
+};
+
+}  // namespace
+
+TEST_CASE("every kind of answer ends in time and says what it was") {
+  for (const PollCase& row : kPolls) {
+    CAPTURE(row.scenario);
+    const auto begin = std::chrono::steady_clock::now();
+    const bool silent = row.outcome == Outcome::Silent;
+    const auto snapshot = Poll(row.scenario, silent ? std::chrono::milliseconds(200) : kTimeout);
+    CHECK(std::chrono::steady_clock::now() - begin < std::chrono::seconds(3));
+    CHECK(snapshot.exchange.outcome == row.outcome);
+    CHECK(snapshot.verdict == row.verdict);
+    CHECK(snapshot.exchange.reply.size() <= stmon::kLongestReply);
+    CHECK(snapshot.trouble.empty() == (row.outcome == Outcome::Answered));
+  }
+}
+
+TEST_CASE("a poll fills what the printer told, and only that") {
+  const auto snapshot = Poll("no-paper");
+  REQUIRE(snapshot.conditions.size() == 1);
+  CHECK(snapshot.conditions[0].code == 32);
+  CHECK(snapshot.current_tray == 3);
+  REQUIRE(snapshot.trays.size() == 2);
+  CHECK(snapshot.trays[0].paper == PaperNone);
+  CHECK(snapshot.trays[1].level == 50);
+
+  const std::string only_status = "\x1BS\r32\r0\r1\n\x1B ";
+  const auto short_reply = stmon::ReadExchange("test", "", stmon::JudgeReply(only_status));
+  CHECK(short_reply.told);
+  CHECK(short_reply.trays.empty());
+  CHECK_FALSE(short_reply.current_bin);
+  const auto no_levels =
+      stmon::ReadExchange("test", "", stmon::JudgeReply("\x1BS\r0\r0\r1\n\x1BT\r1\r6\n\x1B "));
+  REQUIRE(no_levels.trays.size() == 1);
+  CHECK_FALSE(no_levels.trays[0].level);
+}
+
+TEST_CASE("an address where nobody listens is refused, a bad name is named so") {
+  uint16_t port = 0;
+  {
+    stmon::Scenario scenario;
+    scenario.states.emplace_back();
+    std::string trouble;
+    port = stmon::PrinterPort(*stmon::StartPrinter(scenario, 0, trouble));
+  }
+  CHECK(stmon::AskPrinter({"127.0.0.1", port}, "?", std::chrono::seconds(5)).outcome ==
+        Outcome::Refused);
+  CHECK(stmon::AskPrinter({"no.such.host.invalid", 9100}, "?", std::chrono::seconds(5)).outcome ==
+        Outcome::NameUnknown);
+}
+
+TEST_CASE("reports of a hostile printer hold no control characters") {
+  for (const char* name : {"garbage", "cut-off", "unknown-code", "flood"}) {
+    CAPTURE(name);
+    const auto snapshot = Poll(name);
+    for (const std::string& report :
+         {stmon::TextReport(snapshot), stmon::JsonReport(snapshot), stmon::RawReport(snapshot)}) {
+      for (const char byte : report)
+        REQUIRE((byte == '\n' || static_cast<unsigned char>(byte) >= 0x20));
+    }
+  }
+}
