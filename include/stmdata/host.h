@@ -36,11 +36,15 @@ typedef struct BITMAP { /* 24 bytes */
   uint16_t bmBitsPixel;
   void* bmBits;
 } BITMAP;
+typedef struct HRSRC__* HRSRC;
+typedef uint16_t LANGID;
 
 #define ERROR_SUCCESS 0
 #define ERROR_INVALID_HANDLE 6
 #define ERROR_INSUFFICIENT_BUFFER 122
 #define ERROR_INVALID_ADDRESS 487
+#define ERROR_RESOURCE_NAME_NOT_FOUND 1814
+#define ERROR_RESOURCE_LANG_NOT_FOUND 1815
 
 /* The calling thread's last error, 0 until set. */
 STM_HOST_API DWORD STM_CALL GetLastError(void);
@@ -103,6 +107,25 @@ STM_HOST_API uint32_t* STM_CALL HostPicturePixels(HWND dialog, int32_t controlId
 
 /* Releases a dialog with its controls. Result: 1, or 0 when there is no such dialog. */
 STM_HOST_API BOOL STM_CALL HostDestroyDialog(HWND dialog);
+/* ---- Language --------------------------------------------------------------------------------
+   A language id is (sublanguage << 10) | primary language. The thread's language is that of the
+   environment (LC_ALL, LC_MESSAGES, LANG, the first one set) until the thread sets another. The
+   library's texts that follow "the thread's language" follow this one, and fall back to English. */
+
+/* Sets the calling thread's language; 0 returns to the environment's. Result: the language set. */
+STM_HOST_API LANGID STM_CALL SetThreadUILanguage(LANGID language);
+STM_HOST_API LANGID STM_CALL GetThreadUILanguage(void);
+
+/* ---- Resources of the library ----------------------------------------------------------------
+   For what PatFindResource and PatLoadResource return. The bytes are the library's constant data;
+   nothing is released. */
+
+/* The bytes of a resource that PatLoadResource returned; null for null. */
+STM_HOST_API void* STM_CALL LockResource(HGLOBAL data);
+
+/* The size in bytes of a resource that PatFindResource returned; 0 for anything else. The module is
+   not looked at: there is one. */
+STM_HOST_API DWORD STM_CALL SizeofResource(HINSTANCE module, HRSRC resource);
 
 #ifdef __cplusplus
 } /* extern "C" */

@@ -31,6 +31,19 @@ extern "C" {
 STM_API BOOL STM_CALL DllMain(HINSTANCE module, DWORD reason, void* reserved);
 #endif
 
+/* ---- Resources -------------------------------------------------------------------------------
+   The library carries the pictures and icons that its answers name. None of these calls sets
+   PatGetError; a null result is all they tell, beside the system's own last error. */
+
+/* Finds a bitmap of the library.
+   name    a bitmap's name, in any case, or an integer id in place of the pointer
+   Result  the system's handle of the resource, or null */
+STM_API HRSRC STM_CALL PatFindResource(const char* name);
+
+/* Loads what PatFindResource found: a packed device-independent bitmap.
+   Result  the handle of the data for LockResource, which the library keeps; or null */
+STM_API HGLOBAL STM_CALL PatLoadResource(HRSRC resource);
+
 /* ---- Query and reply ------------------------------------------------------------------------- */
 
 /* Builds the readback query to be sent to the printer.

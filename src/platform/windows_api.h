@@ -39,4 +39,26 @@ HGDIOBJ STM_CALL SelectObject(HDC context, HGDIOBJ object);
 BOOL STM_CALL BitBlt(HDC target, int x, int y, int width, int height, HDC source, int sourceX,
                      int sourceY, DWORD rop);
 }
+
+#define MAKEINTRESOURCEA(id) (reinterpret_cast<char*>(static_cast<uintptr_t>(id)))
+#define RT_BITMAP MAKEINTRESOURCEA(2)
+#define RT_ICON MAKEINTRESOURCEA(3)
+#define RT_STRING MAKEINTRESOURCEA(6)
+#define RT_GROUP_ICON MAKEINTRESOURCEA(14)
+
+extern "C" {
+
+// Resources: types and names are strings or 16-bit ids in place of the pointer; strings are compared
+// without regard to case, "#12" means id 12. The module is not looked at.
+
+// Any language: the thread's, else English, else the first that has the name.
+HRSRC STM_CALL FindResourceA(HINSTANCE module, const char* name, const char* type);
+
+// That language, or the neutral ones of it; the neutral language 0 searches like FindResourceA.
+HRSRC STM_CALL FindResourceExA(HINSTANCE module, const char* type, const char* name,
+                               LANGID language);
+
+HGLOBAL STM_CALL LoadResource(HINSTANCE module, HRSRC resource);
+
+}  // extern "C"
 #endif

@@ -1,0 +1,17 @@
+// The language that the calling thread's texts are in.
+#pragma once
+
+#include "platform/windows_api.h"
+
+namespace stm {
+
+inline constexpr LANGID kEnglish = 0x0409;
+inline constexpr LANGID kNeutral = 0;
+
+// The language of a locale name such as "de_AT.UTF-8@euro"; English for a name without one.
+LANGID LanguageOfLocale(const char* locale);
+
+// That of the environment, which is read once.
+LANGID EnvironmentLanguage();
+
+}  // namespace stm

@@ -1,0 +1,228 @@
+// The resources of the library, read from the image that the resource compiler wrote.
+#include <algorithm>
+#include <cstdlib>
+#include <cstring>
+#include <initializer_list>
+
+#include "platform/linux/language.h"
+#include "platform/windows_api.h"
+
+extern "C" {
+extern const unsigned char stmResourceImage[];
+extern const unsigned char stmResourceImageEnd[];
+}
+
+namespace stm {
+namespace {
+
+// A type or a name: a 16-bit id, or a string in capitals.
+struct Label {
+  const unsigned char* text;  // UTF-16, terminated; null for an id
+  uint16_t id;
+};
+
+struct Entry {
+  Label type;
+  Label name;
+  LANGID language;
+  const unsigned char* data;
+  uint32_t size;
+};
+
+// Twice what the library holds; the image is the library's own, so a test sees an overflow first.
+constexpr uint32_t kMostEntries = 1024;
+
+struct Index {
+  Entry entries[kMostEntries];
+  uint32_t count;
+};
+
+template <class Number>
+Number Get(const unsigned char* at) {
+  Number number;
+  std::memcpy(&number, at, sizeof number);
+  return number;
+}
+
+const unsigned char* Align(const unsigned char* at) {
+  return at + (-(at - stmResourceImage) & 3);
+}
+
+//   FF FF id:2                 an id
+//   'B':2 'M':2 ... 00:2       a string
+Label ReadLabel(const unsigned char*& at) {
+  if (Get<uint16_t>(at) == 0xFFFF) {
+    at += 4;
+    return {nullptr, Get<uint16_t>(at - 2)};
+  }
+  const Label label{at, 0};
+  while (Get<uint16_t>(at) != 0)
+    at += 2;
+  at += 2;
+  return label;
+}
+
+//   data size:4 header size:4 type name (to 4) version:4 flags:2 language:2 ... | data (to 4)
+const unsigned char* ReadEntry(const unsigned char* at, Entry* entry) {
+  const auto dataSize = Get<uint32_t>(at);
+  const auto headerSize = Get<uint32_t>(at + 4);
+  const unsigned char* cursor = at + 8;
+  entry->type = ReadLabel(cursor);
+  entry->name = ReadLabel(cursor);
+  entry->language = Get<LANGID>(Align(cursor) + 6);
+  entry->data = at + headerSize;
+  entry->size = dataSize;
+  return Align(entry->data + dataSize);
+}
+
+// Ids come after strings; the look-up needs an order, not a particular one.
+int Compare(const Label& left, const Label& right) {
+  if (!left.text || !right.text) {
+    if (left.text || right.text) return left.text ? -1 : 1;
+    return left.id - right.id;
+  }
+  const unsigned char* l = left.text;
+  const unsigned char* r = right.text;
+  while (Get<uint16_t>(l) == Get<uint16_t>(r) && Get<uint16_t>(l) != 0)
+    l += 2, r += 2;
+  return Get<uint16_t>(l) - Get<uint16_t>(r);
+}
+
+int CompareNames(const Entry& left, const Entry& right) {
+  const int byType = Compare(left.type, right.type);
+  return byType ? byType : Compare(left.name, right.name);
+}
+
+bool Before(const Entry& left, const Entry& right) {
+  const int byName = CompareNames(left, right);
+  return byName ? byName < 0 : left.language < right.language;
+}
+
+const Index& ResourceIndex() {
+  static const Index index = [] {
+    Index made{};
+    const unsigned char* at = stmResourceImage;
+    while (at < stmResourceImageEnd && made.count < kMostEntries)
+      at = ReadEntry(at, &made.entries[made.count++]);
+    std::sort(made.entries, made.entries + made.count, Before);
+    return made;
+  }();
+  return index;
+}
+
+// A caller's type or name as a label; strings longer than any in the image match none.
+constexpr size_t kLongestAsked = 64;
+
+struct AskedLabel {
+  uint16_t text[kLongestAsked];
+  Label label;
+};
+
+bool IsId(const char* name) {
+  return reinterpret_cast<uintptr_t>(name) <= 0xFFFF;
+}
+
+void ReadAsked(const char* name, AskedLabel* asked) {
+  asked->label = {nullptr, 0};
+  if (IsId(name)) {
+    asked->label.id = static_cast<uint16_t>(reinterpret_cast<uintptr_t>(name));
+  } else if (name[0] == '#') {
+    asked->label.id = static_cast<uint16_t>(std::strtoul(name + 1, nullptr, 10));
+  } else {
+    size_t length = 0;
+    for (; name[length] && length + 1 < kLongestAsked; ++length) {
+      const char byte = name[length];
+      const bool lower = byte >= 'a' && byte <= 'z';
+      asked->text[length] = static_cast<uint8_t>(lower ? byte - 'a' + 'A' : byte);
+    }
+    asked->text[length] = 0;
+    asked->label.text = reinterpret_cast<const unsigned char*>(asked->text);
+  }
+}
+
+struct EntryRange {
+  const Entry* first;
+  const Entry* last;
+};
+
+const Entry* FindLanguage(const EntryRange& range, LANGID language) {
+  for (const Entry* entry = range.first; entry < range.last; ++entry) {
+    if (entry->language == language) return entry;
+  }
+  return nullptr;
+}
+
+// The languages to try, in order. A caller without a wish gets the thread's language, that of the
+// environment, English, and at last any; a caller with one gets it or a neutral one.
+const Entry* ChooseLanguage(const EntryRange& range, LANGID language) {
+  constexpr LANGID kPrimaryMask = 0x3FF;
+  const bool anyLanguage = (language & kPrimaryMask) == kNeutral;
+  const LANGID wanted[] = {
+      language,
+      static_cast<LANGID>(language & kPrimaryMask),
+      kNeutral,
+  };
+  for (LANGID one : wanted) {
+    if (const Entry* entry = FindLanguage(range, one)) return entry;
+  }
+  if (!anyLanguage) return nullptr;
+  for (LANGID one : {GetThreadUILanguage(), EnvironmentLanguage(), kEnglish}) {
+    if (const Entry* entry = FindLanguage(range, one)) return entry;
+  }
+  return range.first;
+}
+
+HRSRC FailWith(DWORD systemError) {
+  SetLastError(systemError);
+  return nullptr;
+}
+
+// The entry that a caller's handle stands for; null when it is none of ours.
+const Entry* EntryOf(HRSRC resource) {
+  const Index& index = ResourceIndex();
+  const auto offset = reinterpret_cast<uintptr_t>(resource) - reinterpret_cast<uintptr_t>(&index);
+  if (offset >= index.count * sizeof(Entry) || offset % sizeof(Entry) != 0) return nullptr;
+  return &index.entries[offset / sizeof(Entry)];
+}
+
+}  // namespace
+}  // namespace stm
+
+extern "C" {
+
+HRSRC STM_CALL FindResourceExA(HINSTANCE, const char* type, const char* name, LANGID language) {
+  using namespace stm;
+  AskedLabel askedType;
+  AskedLabel askedName;
+  ReadAsked(type, &askedType);
+  ReadAsked(name, &askedName);
+  const Entry asked{askedType.label, askedName.label, 0, nullptr, 0};
+
+  const Index& index = ResourceIndex();
+  const Entry* end = index.entries + index.count;
+  const auto before = [](const Entry& l, const Entry& r) { return CompareNames(l, r) < 0; };
+  const auto found = std::equal_range(index.entries, end, asked, before);
+  if (found.first == found.second) return FailWith(ERROR_RESOURCE_NAME_NOT_FOUND);
+  const Entry* entry = ChooseLanguage({found.first, found.second}, language);
+  if (!entry) return FailWith(ERROR_RESOURCE_LANG_NOT_FOUND);
+  return reinterpret_cast<HRSRC>(const_cast<Entry*>(entry));
+}
+
+HRSRC STM_CALL FindResourceA(HINSTANCE module, const char* name, const char* type) {
+  return FindResourceExA(module, type, name, stm::kNeutral);
+}
+
+HGLOBAL STM_CALL LoadResource(HINSTANCE, HRSRC resource) {
+  const stm::Entry* entry = stm::EntryOf(resource);
+  return entry ? const_cast<unsigned char*>(entry->data) : nullptr;
+}
+
+void* STM_CALL LockResource(HGLOBAL data) {
+  return data;
+}
+
+DWORD STM_CALL SizeofResource(HINSTANCE, HRSRC resource) {
+  const stm::Entry* entry = stm::EntryOf(resource);
+  return entry ? entry->size : 0;
+}
+}
