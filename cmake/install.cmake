@@ -1,0 +1,63 @@
+# What `cmake --install` lays down, for both systems the same tree; docs/packaging.md shows it.
+include(GNUInstallDirs)
+include(CMakePackageConfigHelpers)
+
+set(package_folder ${CMAKE_INSTALL_LIBDIR}/cmake/stmdata)
+
+# ---- Library and headers ----------------------------------------------------------------------
+
+install(DIRECTORY include/stmdata DESTINATION ${CMAKE_INSTALL_INCLUDEDIR} FILES_MATCHING PATTERN *.h)
+if(WIN32)
+  # The linker's own import library is no use to clients, so the target is installed without it.
+  install(TARGETS stmdata RUNTIME DESTINATION ${CMAKE_INSTALL_BINDIR}
+    ARCHIVE DESTINATION ${CMAKE_INSTALL_LIBDIR} EXCLUDE_FROM_ALL)
+  install(FILES ${CMAKE_BINARY_DIR}/libstmdata.dll.a DESTINATION ${CMAKE_INSTALL_LIBDIR})
+  install(FILES ${CMAKE_BINARY_DIR}/stmdata.lib DESTINATION ${CMAKE_INSTALL_LIBDIR} OPTIONAL)
+else()
+  install(TARGETS stmdata LIBRARY DESTINATION ${CMAKE_INSTALL_LIBDIR})
+endif()
+
+# ---- Programs ---------------------------------------------------------------------------------
+
+foreach(program IN ITEMS stmon stmonw)
+  if(TARGET ${program})
+    install(TARGETS ${program} RUNTIME DESTINATION ${CMAKE_INSTALL_BINDIR})
+    # In a tree that may lie anywhere the programs find the library by its place beside them.
+    file(RELATIVE_PATH to_library /${CMAKE_INSTALL_BINDIR} /${CMAKE_INSTALL_LIBDIR})
+    set_target_properties(${program} PROPERTIES INSTALL_RPATH $ORIGIN/${to_library})
+  endif()
+endforeach()
+
+# ---- For those who build against it -----------------------------------------------------------
+
+configure_package_config_file(cmake/stmdata-config.cmake.in stmdata-config.cmake
+  INSTALL_DESTINATION ${package_folder}
+  PATH_VARS CMAKE_INSTALL_INCLUDEDIR CMAKE_INSTALL_LIBDIR CMAKE_INSTALL_BINDIR
+  NO_CHECK_REQUIRED_COMPONENTS_MACRO)
+# Refuses a project that is not 32-bit, which the headers would refuse with less clear words.
+write_basic_package_version_file(stmdata-config-version.cmake COMPATIBILITY SameMajorVersion)
+install(FILES ${CMAKE_CURRENT_BINARY_DIR}/stmdata-config.cmake
+  ${CMAKE_CURRENT_BINARY_DIR}/stmdata-config-version.cmake DESTINATION ${package_folder})
+
+file(RELATIVE_PATH to_prefix /${CMAKE_INSTALL_LIBDIR}/pkgconfig /)
+string(REGEX REPLACE "/+$" "" to_prefix "${to_prefix}")
+configure_file(cmake/stmdata.pc.in stmdata.pc @ONLY)
+install(FILES ${CMAKE_CURRENT_BINARY_DIR}/stmdata.pc DESTINATION ${CMAKE_INSTALL_LIBDIR}/pkgconfig)
+
+# ---- To read ----------------------------------------------------------------------------------
+
+if(WIN32)
+  set(doc_folder doc)
+  set(examples_parent .)
+else()
+  set(doc_folder ${CMAKE_INSTALL_DATAROOTDIR}/doc/stmdata)
+  set(examples_parent ${doc_folder})
+endif()
+foreach(page IN ITEMS README.md docs/stmon.md docs/decisions.md)
+  if(EXISTS ${CMAKE_SOURCE_DIR}/${page})
+    install(FILES ${page} DESTINATION ${doc_folder})
+  endif()
+endforeach()
+if(EXISTS ${CMAKE_SOURCE_DIR}/examples)
+  install(DIRECTORY examples DESTINATION ${examples_parent})
+endif()

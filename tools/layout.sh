@@ -1,0 +1,25 @@
+#!/usr/bin/env bash
+# The files of an installed tree, sorted, from the table in docs/packaging.md: the one written list.
+#
+#   tools/layout.sh linux|windows|debian|zip
+set -eu
+cd "$(dirname "$0")/.."
+version=$(sed -nE 's/^project\(.* VERSION ([0-9.]+).*/\1/p' CMakeLists.txt)
+
+# files COLUMN: the rows that have a mark in this column.
+files() {
+  sed -n '/^| file /,/^$/p' docs/packaging.md |
+    awk -F ' *[|] *' -v column="$1" '$2 ~ /^`.*`$/ && $column == "x" { gsub("`", "", $2); print $2 }' |
+    sed "s/VERSION/$version/"
+}
+
+case "${1:-}" in
+  linux) files 3 ;;
+  windows) files 4 ;;
+  debian) files 5 | sed -E 's,^,usr/,; s,^usr/lib/,usr/lib/i386-linux-gnu/,' ;;
+  zip) files 6 ;;
+  *)
+    sed -n '4s/^# *//p' "$0" >&2
+    exit 2
+    ;;
+esac | LC_ALL=C sort
