@@ -73,27 +73,119 @@ const ReplyCase kReplies[] = {
     {"a block of 256 bytes takes 255: the walk ends",
      {"\x1BL\r1\r" + std::string(250, '7') + "\n\x1BT\r1\r5\n"},
      "bins[1:56881]"},
-};
 
-// The part of a reply that its whole blocks make up.
-std::string_view WholeBlocks(std::string_view reply) {
-  size_t end = 0;
-  while (reply.size() - end > 1 && reply[end] == '\x1B') {
-    const std::string_view rest = reply.substr(end);
-    const size_t marker = rest.find("\x1B ");
-    const size_t line = rest.find('\n');
-    if (marker == 0) {
-      end += 2;
-    } else if (rest[1] == 'S' && marker < line) {
-      end += marker + 2;
-    } else if (line != rest.npos) {
-      end += line + 1;
-    } else {
-      break;
-    }
-  }
-  return reply.substr(0, end);
-}
+    {"two version texts", {"\x1BV\rSYS\r1.01\rNWC\r2.00\n"}, "version1='1.01' version2='2.00'"},
+    {"three version texts",
+     {"\x1BV\rSYS\r1.01\rNWC\r2.00\rNPS\r3.1415\n"},
+     "version1='1.01' version2='2.00' version3='3.1415'"},
+    {"a version text that the reply lacks stays",
+     {"\x1BV\rSYS\r1.01\rNWC\r2.00\rNPS\r3.00\n", "\x1BV\rSYS\r4\rNWC\r5\n"},
+     "version1='4' version2='5' version3='3.00'"},
+    {"a version text is cut at six characters, its rest is the next label",
+     {"\x1BV\rSYS\r1.23456789\r2.00\rNPS\r3.00000\n"},
+     "version1='1.2345' version2='2.00' version3='3.0000'"},
+    {"versions without fields", {"\x1BV\n"}, "version1='' version2=''"},
+    {"a number", {"\x1BM\r64\n"}, "number=64"},
+    {"a number is cut at fourteen digits", {"\x1BM\r000000000000123\n"}, "number=12"},
+    {"no number", {"\x1BM\r64\n\x1BM\n"}, ""},
+    {"a language",
+     {"\x1B"
+      "E\rNDL\n"},
+     "language=1"},
+    {"a language is cut at three characters",
+     {"\x1B"
+      "E\rGL2X\n"},
+     "language=12"},
+    {"an unknown language",
+     {"\x1B"
+      "E\rNDL\n",
+      "\x1B"
+      "E\rndl\n"},
+     ""},
+    {"an unlisted font is dropped",
+     {"\x1B"
+      "F\rGOTHIC\rSERIF\rKAISHO\n"},
+     "fonts[13 19]"},
+    {"an unlisted font at the head",
+     {"\x1B"
+      "F\rSERIF\rGOTHIC\n"},
+     "fonts[13]"},
+    {"no fonts",
+     {"\x1B"
+      "F\rGOTHIC\n",
+      "\x1B"
+      "F\r\n"},
+     ""},
+    {"a font name is cut at 126 characters",
+     {"\x1B"
+      "F\rGOTHIC\r" +
+      std::string(127, 'X') + "KAISHO\n"},
+     "fonts[13 19]"},
+
+    {"option 4 absent",
+     {"\x1B"
+      "A\r0\n"},
+     ""},
+    {"option 4 twice",
+     {"\x1B"
+      "A\r1\n\x1B"
+      "A\r1\n"},
+     "options[4:0]"},
+    {"the duplex unit behind option 4",
+     {"\x1B"
+      "A\r1\n\x1B"
+      "C\rx\n"},
+     "options[4:0 1:0]"},
+    {"a code per bit of the value",
+     {"\x1B"
+      "D\rF:3\n"},
+     "options[11:0 12:0]"},
+    {"the value of the duplex unit, its low half",
+     {"\x1B"
+      "D\rD:\x31\x32\x33\x34\n"},
+     "options[1:12849]"},
+    {"value bytes past the fourth are ignored",
+     {"\x1B"
+      "D\rD:\x31\x32\x33\x34\x35\rA:0\n"},
+     "options[1:12849 4:0]"},
+    {"a value that selects nothing leaves an uncounted node",
+     {"\x1B"
+      "D\rO: \n"},
+     "options(0)[0:0]"},
+    {"an uncounted node among others",
+     {"\x1B"
+      "D\rF:3\rO: \rH:0\n"},
+     "options(3)[11:0 12:0 0:0 3:0]"},
+    {"uncounted nodes are replaced by the first answer",
+     {"\x1B"
+      "D\rO: \rF: \n\x1B"
+      "A\r1\n"},
+     "options[4:0]"},
+    {"every tray bit",
+     {"\x1B"
+      "D\rT:\xFF\n"},
+     "options[16:0 17:0 104:0 103:0 101:0 102:0 105:0 106:0]"},
+    {"an unknown letter is skipped",
+     {"\x1B"
+      "D\rX:1\rB:\x02\n"},
+     "options[15:0]"},
+    {"the list is built anew, later answers add to it",
+     {"\x1B"
+      "A\r1\n\x1B"
+      "D\rH:1\n\x1B"
+      "C\r1\n"},
+     "options[3:0 1:0]"},
+    {"an entry of a letter only",
+     {"\x1B"
+      "D\rM\n"},
+     "options[3:0]"},
+    {"no options",
+     {"\x1B"
+      "A\r1\n",
+      "\x1B"
+      "D\r\n"},
+     ""},
+};
 
 }  // namespace
 
@@ -107,13 +199,21 @@ TEST_CASE("a reply updates the record block by block") {
   }
 }
 
+// Something in every field that a reply can fill.
+const char kEarlier[] =
+    "\x1BS\r1,2,3\r1\r5\r7\n\x1BT\r1\r5\r2\r5\n\x1BL\r1\r5\n\x1BV\rA\r1\rB\r2\rC\r3\n\x1BM\r7\n"
+    "\x1B"
+    "E\rNPS\n\x1B"
+    "F\rKAISHO\n\x1B"
+    "D\rF:3\rO: \n";
+
 TEST_CASE("a reply that is cut off says what its whole blocks say, and nothing past it is read") {
   for (const ReplyCase& row : kReplies) {
     for (const std::string& reply : row.replies) {
       test::ForEveryCut(reply, [&](test::GuardedBytes& cut) {
         CAPTURE(row.why);
         CAPTURE(cut.size());
-        const std::string_view whole = WholeBlocks({cut.data(), size_t(cut.size())});
+        const std::string_view whole = test::WholeBlocks({cut.data(), size_t(cut.size())});
         for (const char* earlier :
              {"", "\x1BS\r1,2,3\r1\r5\r7\n\x1BT\r1\r5\r2\r5\n\x1BL\r1\r5\n"}) {
           test::Record record, expected;

@@ -108,6 +108,26 @@ void ForEveryCut(std::string_view bytes, Visit visit) {
   }
 }
 
+// The part of a reply that its whole blocks make up.
+inline std::string_view WholeBlocks(std::string_view reply) {
+  size_t end = 0;
+  while (reply.size() - end > 1 && reply[end] == '\x1B') {
+    const std::string_view rest = reply.substr(end);
+    const size_t marker = rest.find("\x1B ");
+    const size_t line = rest.find('\n');
+    if (marker == 0) {
+      end += 2;
+    } else if (rest[1] == 'S' && marker < line) {
+      end += marker + 2;
+    } else if (line != rest.npos) {
+      end += line + 1;
+    } else {
+      break;
+    }
+  }
+  return reply.substr(0, end);
+}
+
 // A list's keys or values in order, for comparison with what is expected.
 template <class Node, class Value>
 std::vector<uint32_t> Values(const Node* head, Value Node::*field) {

@@ -61,9 +61,43 @@ STM_API uint32_t STM_CALL CreateQueryCommand(uint32_t groups, char* buffer, uint
            a block should begin, at an unknown letter, and at a block that the reply cuts off
    length  bytes; 0 or less reads nothing
    Result  1 walked, 0 null record or the reply does not begin with ESC (the record is untouched).
-   A block's list that cannot be allocated becomes empty. */
+   A block's list that cannot be allocated becomes empty. A version text that the record holds
+   already must have room for 6 characters: it is written over. */
 STM_API uint32_t STM_CALL SetPrnInfoExFromReadbackCmd(PrnInfoEx* record, const char* reply,
                                                       int32_t length);
+
+/* Updates the flat `record` from the printer's readback reply, group by group; arguments and walk
+   as above.
+   record  the caller's; fields of groups that the reply does not carry stay, `structSize` and
+           `reserved...` always. Arrays take what fits while their counts tell what the printer
+           reported; texts are cut at their field. Options 1 and 4 to 6 are never taken back from
+           `hasDuplex` and `option4Present` to `option6Present`; a C block alone changes nothing
+   Result  1 walked; 0 null record, no ESC at the beginning of the reply, or no memory (the record
+           is untouched) */
+STM_API uint32_t STM_CALL SetPrnInfoFromReadbackCmd(PrnInfo* record, const char* reply,
+                                                    int32_t length);
+
+/* ---- Device ID ------------------------------------------------------------------------------- */
+
+/* Reads the keys MFG, CMD, MDL and DES of an IEEE 1284 Device ID: maker, printer languages, model
+   name, description, and from the last two the model code, which the later key decides.
+   record    the caller's, zero-filled before its first use; `recordTag` and `structSize` are set.
+             A key's earlier string or list is released and replaced; fields of keys that the string
+             lacks stay. A string that cannot be allocated becomes null
+   deviceId  fields ended by ";", without the two length bytes of the wire. Keys count in upper case
+             at the beginning of a field; a field is cut at 255 bytes. A last MDL, DES or CMD field
+             without ";" loses its last character
+   length    bytes; the string also ends at its first zero byte
+   Result    1 read, 0 null record or string */
+STM_API uint32_t STM_CALL SetModelInfoExFromDeviceID(ModelInfoEx* record, const char* deviceId,
+                                                     uint32_t length);
+
+/* Fills `modelName`, `manufacturer` (cut at 15 characters), `description`, `modelCode`,
+   `emulationList` (the first 32) and `emulationCount` of the flat `record`; arguments as above.
+   Fields of keys that the string lacks stay, but `modelCode` becomes 0 without MDL and DES.
+   Result  1 read; 0 null record or string, or no memory (the record is untouched) */
+STM_API uint32_t STM_CALL SetModelInfoFromDeviceID(PrnInfo* record, const char* deviceId,
+                                                   uint32_t length);
 
 /* ---- Status ---------------------------------------------------------------------------------- */
 

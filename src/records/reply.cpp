@@ -3,6 +3,8 @@
 #include <atomic>
 #include <cstring>
 
+#include "records/configuration_blocks.h"
+#include "records/option_blocks.h"
 #include "records/paper_blocks.h"
 #include "records/scanners.h"
 #include "records/status_block.h"
@@ -24,6 +26,13 @@ constexpr BlockRow kBlocks[] = {
     {'T', ParseTrayBlock, GroupTrays},                       // paper sizes
     {'Z', ParseLevelBlock, GroupTrays},                      // paper levels
     {'L', ParseBinBlock, GroupBins},                         // output bins
+    {'V', ParseVersionBlock, GroupModelInfo},                // version texts
+    {'M', ParseNumberBlock, GroupModelInfo},                 // number
+    {'E', ParseEmulationBlock, GroupEmulation},              // printer language in use
+    {'F', ParseFontBlock, GroupFonts},                       // resident fonts
+    {'A', ParseOption4Block, GroupOptions},                  // option 4
+    {'C', ParseDuplexBlock, GroupDuplex},                    // duplex unit
+    {'D', ParseOptionBlock, GroupOptions},                   // optional units
 };
 
 constexpr char kEndLetter = ' ';

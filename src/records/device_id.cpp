@@ -1,0 +1,136 @@
+// The printer's IEEE 1284 Device ID.
+#include <cstring>
+
+#include "records/emulation_codes.h"
+#include "records/item_list.h"
+#include "records/model_names.h"
+#include "records/record.h"
+#include "records/scanners.h"
+#include "stmdata/stmdata.h"
+
+namespace stm {
+namespace {
+
+constexpr NameCode kServedModels[] = {
+    kServedModel, {nullptr, ModelUnknown},  // closing row: another printer
+};
+
+constexpr char kFieldEnd = ';';
+constexpr uint32_t kKeyLength = 4;
+
+// The value of a field: what follows the key, with the field's ";".
+using Value = Input;
+
+void DropLast(Value& value) {
+  if (Left(value) > 0) --value.end;
+}
+
+bool EndsField(const Value& value) {
+  return Left(value) > 0 && value.end[-1] == kFieldEnd;
+}
+
+// Replaces a string of the record; null without memory.
+void ReplaceText(char*& text, const Value& value) {
+  if (text) GlobalFree(text);
+  text = static_cast<char*>(GlobalAlloc(GPTR, Left(value) + 1));
+  if (text) std::memcpy(text, value.position, Left(value));
+}
+
+// A printer whose name cannot be kept counts as unknown.
+void ReplaceNamedModel(PrnInfoEx* record, char*& name, Value value, const NameCode* models) {
+  DropLast(value);
+  ReplaceText(name, value);
+  record->modelCode = static_cast<uint8_t>(name ? LookupNameCode(name, models) : ModelUnknown);
+}
+
+void ReadManufacturer(PrnInfoEx* record, Value value) {
+  if (EndsField(value)) DropLast(value);
+  ReplaceText(record->manufacturer, value);
+}
+
+// Codes of more than six characters are split; each piece loses its comma, the last one of a
+// string that ends early loses its last character.
+void ReadLanguages(PrnInfoEx* record, Value value) {
+  record->emulationList = FreeItemList(record->emulationList);
+  record->emulationCount = 0;
+  EmulationNode** link = &record->emulationList;
+  while (Left(value) > 0) {
+    char code[8];
+    const uint32_t kept = ScanField2(value, ',', kFieldEnd, sizeof code, code);
+    code[kept - 1] = '\0';
+    Skip(value, kept);
+    *link = NewItem<EmulationNode>();
+    if (!*link) continue;
+    (*link)->emulationCode = static_cast<uint16_t>(LookupNameCode(code, kEmulationCodeTable));
+    link = &(*link)->next;
+    ++record->emulationCount;
+  }
+}
+
+void ReadModel(PrnInfoEx* record, Value value) {
+  ReplaceNamedModel(record, record->modelName, value, kServedModels);
+}
+
+void ReadDescription(PrnInfoEx* record, Value value) {
+  ReplaceNamedModel(record, record->description, value, kModelNameTable);
+}
+
+struct KeyRow {
+  char key[kKeyLength + 1];
+  void (*read)(PrnInfoEx* record, Value value);
+};
+
+constexpr KeyRow kKeys[] = {
+    {"MFG:", ReadManufacturer},
+    {"CMD:", ReadLanguages},
+    {"MDL:", ReadModel},
+    {"DES:", ReadDescription},
+};
+
+// Fields are cut at 255 bytes; the rest of one is read as the next.
+uint32_t FieldLength(const Input& input) {
+  const uint32_t most = Left(input) < 255 ? Left(input) : 255;
+  const auto* end = static_cast<const char*>(std::memchr(input.position, kFieldEnd, most));
+  return end ? static_cast<uint32_t>(end + 1 - input.position) : most;
+}
+
+void WalkDeviceId(Input rest, PrnInfoEx* record) {
+  while (Left(rest) > 0) {
+    const Input field{rest.position, rest.position + FieldLength(rest)};
+    Skip(rest, Left(field));
+    for (const KeyRow& row : kKeys) {
+      if (Left(field) < kKeyLength || std::memcmp(field.position, row.key, kKeyLength) != 0)
+        continue;
+      row.read(record, {field.position + kKeyLength, field.end});
+      break;
+    }
+  }
+}
+
+// The string ends at its length or at its first zero byte, whatever comes first.
+Input DeviceIdOf(const char* text, uint32_t length) {
+  const auto* zero = static_cast<const char*>(std::memchr(text, '\0', length));
+  return {text, zero ? zero : text + length};
+}
+
+}  // namespace
+}  // namespace stm
+
+uint32_t STM_CALL SetModelInfoExFromDeviceID(ModelInfoEx* record, const char* deviceId,
+                                             uint32_t length) {
+  if (!record || !deviceId) return 0;
+  record->recordTag = PrnInfoExTag;
+  record->structSize = PrnInfoExSize;
+  stm::WalkDeviceId(stm::DeviceIdOf(deviceId, length), record);
+  return 1;
+}
+
+uint32_t STM_CALL SetModelInfoFromDeviceID(PrnInfo* record, const char* deviceId, uint32_t length) {
+  if (!record) return 0;
+  PrnInfoEx* temporary = stm::NewPrnInfoEx();
+  if (!temporary) return 0;
+  const uint32_t result = SetModelInfoExFromDeviceID(temporary, deviceId, length);
+  if (result) stm::ConvertToPrnInfo(*temporary, record, GroupDeviceId);
+  stm::FreePrnInfoEx(temporary);
+  return result;
+}
