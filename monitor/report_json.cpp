@@ -1,3 +1,4 @@
+#include <algorithm>
 #include <ctime>
 
 #include "nlohmann/json.hpp"
@@ -23,10 +24,38 @@ std::string UtcText(std::chrono::system_clock::time_point when) {
   return text;
 }
 
-Json ConditionJson(const Condition& condition) {
-  Json json{{"code", condition.code}, {"known", condition.known}};
-  if (condition.known) json["level"] = condition.row.level;
+Json AlertJson(const Reason& reason) {
+  Json json{{"code", reason.alert}, {"name", AlertName(reason.alert)}, {"group", reason.group}};
+  if (reason.supply != 0) json["supply_type"] = reason.supply;
+  if (reason.severity != Severity::Report)
+    json["severity"] = reason.severity == Severity::Error ? "critical" : "warning";
   return json;
+}
+
+Json ConditionJson(const Condition& condition, bool dominant) {
+  const Reason& reason = *condition.reason;
+  Json json{{"code", condition.code}, {"known", condition.known}, {"dominant", dominant}};
+  if (condition.known) json["level"] = condition.row.level;
+  json["severity"] = SeverityWord(reason.severity);
+  json["reason"] = Keyword(reason);
+  if (const char* colour = TonerColour(condition.code); *colour) json["colour"] = colour;
+  if (reason.alert != 0) json["alert"] = AlertJson(reason);
+  if (reason.error_bits != 0) json["detected_error_state"] = ErrorBitNames(reason.error_bits);
+  return json;
+}
+
+// "stopped" when something keeps the printer from printing, as printer-state has it.
+const char* StateWord(const Snapshot& snapshot) {
+  for (const Condition& condition : snapshot.conditions) {
+    if (condition.reason->severity == Severity::Error) return "stopped";
+  }
+  if (!snapshot.online) return "stopped";
+  return snapshot.dominant == std::vector<uint32_t>{StatusPrinting} ? "processing" : "idle";
+}
+
+bool IsDominant(const Snapshot& snapshot, uint32_t code) {
+  return std::find(snapshot.dominant.begin(), snapshot.dominant.end(), code) !=
+         snapshot.dominant.end();
 }
 
 Json TrayJson(const Tray& tray) {
@@ -47,9 +76,11 @@ std::string JsonReport(const Snapshot& snapshot) {
   json["exit_status"] = static_cast<int>(snapshot.verdict);
   if (snapshot.told) {
     json["online"] = snapshot.online;
+    json["printer_state"] = StateWord(snapshot);
+    json["printer_state_reasons"] = StateReasons(snapshot);
     json["conditions"] = Json::array();
     for (const Condition& condition : snapshot.conditions)
-      json["conditions"].push_back(ConditionJson(condition));
+      json["conditions"].push_back(ConditionJson(condition, IsDominant(snapshot, condition.code)));
     if (snapshot.current_tray) json["tray_in_use"] = *snapshot.current_tray;
     if (snapshot.current_bin) json["bin_in_use"] = *snapshot.current_bin;
     json["trays"] = Json::array();

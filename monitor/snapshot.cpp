@@ -80,6 +80,7 @@ Condition LookUp(uint32_t code) {
   probe.structSize = PrnInfoSize;
   probe.statusCode = code >= 49 && code <= 64 ? 48 : code;  // service calls share one row
   condition.known = PatGetPrinterStatus(&probe, &condition.row) == 1;
+  condition.reason = &ReasonOf(code);
   return condition;
 }
 
@@ -114,13 +115,41 @@ void ReadBins(Snapshot& snapshot, const Record& record) {
     snapshot.bins.push_back({node->binId, node->binState});
 }
 
+const Condition* Find(const Snapshot& snapshot, uint32_t code) {
+  for (const Condition& condition : snapshot.conditions) {
+    if (condition.code == code) return &condition;
+  }
+  return nullptr;
+}
+
+// A code that nobody knows is chosen only when there is no other.
+void ChooseDominant(Snapshot& snapshot) {
+  const Condition* worst = nullptr;
+  for (const Condition& condition : snapshot.conditions) {
+    const bool better =
+        !worst || condition.known > worst->known ||
+        (condition.known == worst->known && condition.reason->severity > worst->reason->severity);
+    if (better) worst = &condition;
+  }
+  if (worst) snapshot.dominant = {worst->code};
+}
+
+// The dominant condition decides. A code that nobody knows is of the error class: beside a harmless
+// dominant one it still asks for attention.
 Verdict Judge(const Snapshot& snapshot) {
   if (!snapshot.told || snapshot.exchange.outcome != Outcome::Answered) return Verdict::Unknown;
-  if (!snapshot.online || snapshot.has_error) return Verdict::CannotPrint;
-  for (const Condition& condition : snapshot.conditions) {
-    if (condition.row.level > 1) return Verdict::Attention;
+  if (!snapshot.online) return Verdict::CannotPrint;
+  Verdict verdict = Verdict::Fine;
+  if (!snapshot.dominant.empty()) {
+    const Condition* dominant = Find(snapshot, snapshot.dominant[0]);
+    const Severity severity = dominant ? dominant->reason->severity : Severity::Report;
+    if (severity == Severity::Warning) verdict = Verdict::Attention;
+    if (severity == Severity::Error) verdict = Verdict::CannotPrint;
   }
-  return Verdict::Fine;
+  for (const Condition& condition : snapshot.conditions) {
+    if (!condition.known) verdict = std::max(verdict, Verdict::Attention);
+  }
+  return verdict;
 }
 
 }  // namespace
@@ -160,7 +189,7 @@ Snapshot ReadExchange(std::string source, std::string query, Exchange exchange) 
   ReadStatus(snapshot, record);
   ReadTrays(snapshot, record, Has(blocks, 'Z'));
   ReadBins(snapshot, record);
-  if (snapshot.conditions.size() == 1) snapshot.dominant = snapshot.conditions[0];
+  ChooseDominant(snapshot);
   snapshot.verdict = Judge(snapshot);
   return snapshot;
 }
@@ -177,6 +206,21 @@ std::string PaperLabel(uint32_t code) {
   if (code == PaperNone) return "no paper";
   if (code == PaperTrayMissing) return "not in place";
   return "paper code " + std::to_string(code);
+}
+
+std::vector<std::string> StateReasons(const Snapshot& snapshot) {
+  std::vector<std::string> keywords;
+  const auto add = [&](const Reason& reason) {
+    const std::string keyword = Keyword(reason);
+    if (keyword == "none") return;
+    if (std::find(keywords.begin(), keywords.end(), keyword) == keywords.end())
+      keywords.push_back(keyword);
+  };
+  for (const Condition& condition : snapshot.conditions)
+    add(*condition.reason);
+  if (snapshot.told && !snapshot.online) add(ReasonOf(kOfflineCode));
+  if (keywords.empty()) keywords.push_back("none");
+  return keywords;
 }
 
 const char* OutcomeWord(Outcome outcome) {

@@ -10,6 +10,7 @@
 #include <string>
 #include <vector>
 
+#include "reasons.h"
 #include "record.h"
 #include "transport.h"
 
@@ -33,6 +34,7 @@ struct Condition {
   uint32_t code = 0;
   bool known = false;  // has a row in the library's table
   StatusRow row{};
+  const Reason* reason = nullptr;  // never null once read
 };
 
 struct Snapshot {
@@ -48,7 +50,7 @@ struct Snapshot {
   bool online = false;
   bool has_error = false;
   std::vector<Condition> conditions;  // in the printer's order, without repetitions
-  std::optional<Condition> dominant;
+  std::vector<uint32_t> dominant;     // the codes that decide; several for toners of one kind
   std::optional<uint32_t> current_tray;
   std::optional<uint32_t> current_bin;
   std::vector<Tray> trays;
@@ -67,6 +69,9 @@ std::string TrayLabel(uint32_t id);
 
 // "A4", or empty when the printer did not tell.
 std::string PaperLabel(uint32_t code);
+
+// The keywords of all conditions, "none" when there is none: printer-state-reasons.
+std::vector<std::string> StateReasons(const Snapshot& snapshot);
 
 const char* OutcomeWord(Outcome outcome);  // a word for programs: "answered", "refused", ...
 
