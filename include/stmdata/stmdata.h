@@ -132,6 +132,62 @@ STM_API uint32_t STM_CALL PatGetInfoFromNet(PrnInfo* info, uint32_t mode, const 
 /* The status code for a status value of the network layer: the same value. */
 STM_API uint32_t STM_CALL PatGetStatusFromNet(uint32_t status);
 
+/* ---- Icons and parts ------------------------------------------------------------------------- */
+
+/* Writes the name of the icon that shows the record's state; unless the name begins with BMP_,
+   PatLoadIcon knows it, ICO_ERR_POWEROFF excepted, which is the caller's to resolve, too.
+   buffer  at least 17 bytes; always terminated
+   Result  1 written. 0: nothing written; PatGetError: 2 `info` or `buffer` is null
+   A code without an icon gives BMP_ERR_CAUTION; an offline printer in a mild state ICO_OFFLINE. A
+   record with several statuses shows the dominant one; printing and a missing response count only
+   then.
+   _Ex     shows the dominant status; a printer that does not respond ICO_ERR_POWEROFF, one without
+           a listed status ICO_ONLINE, printing or not */
+STM_API uint32_t STM_CALL PatGetErrParts(const PrnInfo* info, char* buffer);
+STM_API uint32_t STM_CALL PatGetErrParts_Ex(const PrnInfoEx* info, char* buffer);
+
+/* Writes the name of the icon for a paper level.
+   kind    1, the paper-level icons
+   amount  per cent; above 100 it shows as 51 to 75
+   buffer  at least 12 bytes; always terminated
+   size    not read
+   Result  1 written, PatGetError becomes 0. 0 and "" for another `kind`, PatGetError stays;
+           0 with PatGetError 2 for a null buffer */
+STM_API uint32_t STM_CALL PatGetIconName(uint32_t kind, uint32_t amount, char* buffer,
+                                         uint32_t size);
+
+/* Copies an entry of the parts table: a bitmap's name and the raster operations to draw it with.
+   info    not read, only tested for null
+   index   part code 0 to 67
+   part    receives the entry, also when `info` is null; its name stays the library's
+   Result  1 copied. 0: PatGetError 2 `info` or `part` is null, 1 no such index, `part` untouched */
+STM_API uint32_t STM_CALL PatGetPrnParts(const PrnInfo* info, uint8_t index, PrnPart* part);
+STM_API uint32_t STM_CALL PatGetPrnParts_Ex(const PrnInfoEx* info, uint8_t index, PrnPart* part);
+
+/* ---- Paper and trays -------------------------------------------------------------------------
+   `info` is not read and may be null. Names are fixed bytes of code page 932 in every language.
+   Buffers are emptied first and always terminated. Result: 1 written; 0 for a code without an
+   answer, PatGetError is then 0; 0 with PatGetError 2 for a null buffer. */
+
+/* The name of a paper size; buffer of at least 8 bytes. "" is the name of "no paper" (1). */
+STM_API uint32_t STM_CALL PatGetPaperName(const PrnInfo* info, uint32_t paperCode, char* buffer);
+STM_API uint32_t STM_CALL PatGetPaperName_Ex(const PrnInfoEx* info, uint32_t paperCode,
+                                             char* buffer);
+
+/* The name of the picture that shows a paper's orientation, for PatLoadBitmap; buffer of at least
+   17 bytes. Papers without an orientation have none. */
+STM_API uint32_t STM_CALL PatGetPaperBitmap(const PrnInfo* info, uint32_t paperCode, char* buffer);
+STM_API uint32_t STM_CALL PatGetPaperBitmap_Ex(const PrnInfoEx* info, uint32_t paperCode,
+                                               char* buffer);
+
+/* The name of a tray; buffer of at least 12 bytes. */
+STM_API uint32_t STM_CALL PatGetTrayName(const PrnInfo* info, uint32_t trayCode, char* buffer);
+STM_API uint32_t STM_CALL PatGetTrayName_Ex(const PrnInfoEx* info, uint32_t trayCode, char* buffer);
+
+/* Kept for callers that ask; no argument is read. Result: 0, PatGetError stays. */
+STM_API uint32_t STM_CALL PatGetTrayRect(uint32_t info, uint32_t tray, uint32_t rect);
+STM_API uint32_t STM_CALL PatGetTrayRect_Ex(uint32_t info, uint32_t tray, uint32_t rect);
+
 #ifdef __cplusplus
 } /* extern "C" */
 #endif

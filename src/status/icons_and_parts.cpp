@@ -1,0 +1,82 @@
+// Which icon shows a record's state, which one a paper level, and the entries of the parts table.
+#include <cstring>
+
+#include "status/dominant_status.h"
+#include "status/icon_table.h"
+#include "status/last_error.h"
+#include "status/parts_table.h"
+#include "status/record_view.h"
+#include "stmdata/stmdata.h"
+
+namespace stm {
+namespace {
+
+const char* StateIcon(uint32_t code, bool online) {
+  if (!online && code <= kLastMildCode) return kOfflineIcon;
+  const IconRow* row = kErrPartsTable;
+  while (row->code != -1 && static_cast<uint32_t>(row->code) != code)
+    ++row;
+  return row->icon;
+}
+
+const char* PaperLevelIcon(uint32_t level) {
+  const LevelIcon* row = kLevelIcons;
+  while (level < row->lowest || level > row->highest)
+    ++row;
+  return row->icon;
+}
+
+uint32_t WriteName(const char* name, char* buffer) {
+  std::memcpy(buffer, name, std::strlen(name) + 1);
+  return 1;
+}
+
+// Neither printing nor a missing response shows here, unless several statuses are weighed.
+uint32_t IconCode(const PrnInfo& info) {
+  return HasSeveralStatuses(info) ? GetDominantStatus(&info) : info.statusCode;
+}
+
+uint32_t IconCode(const PrnInfoEx& info) {
+  if (info.noResponse) return StatusNoResponse;
+  const bool listsNothing = !info.statusList || info.statusCount == 0;
+  return listsNothing ? 0 : GetDominantStatus_Ex(&info);
+}
+
+// The entry is delivered without a record, too: the drawing has none.
+uint32_t CopyPart(bool hasRecord, uint8_t index, PrnPart* part) {
+  const uint32_t result = hasRecord ? 1 : FailWith(PatErrorNullRecord);
+  if (!part) return FailWith(PatErrorNullRecord);
+  if (index >= kPartCount) return hasRecord ? FailWith(PatErrorNotFound) : 0;
+  *part = kPartsTable[index];
+  return result;
+}
+
+}  // namespace
+}  // namespace stm
+
+uint32_t STM_CALL PatGetErrParts(const PrnInfo* info, char* buffer) {
+  if (!info || !buffer) return stm::FailWith(PatErrorNullRecord);
+  return stm::WriteName(stm::StateIcon(stm::IconCode(*info), info->online != 0), buffer);
+}
+
+uint32_t STM_CALL PatGetErrParts_Ex(const PrnInfoEx* info, char* buffer) {
+  if (!info || !buffer) return stm::FailWith(PatErrorNullRecord);
+  return stm::WriteName(stm::StateIcon(stm::IconCode(*info), info->online != 0), buffer);
+}
+
+uint32_t STM_CALL PatGetIconName(uint32_t kind, uint32_t amount, char* buffer, uint32_t) {
+  constexpr uint32_t kPaperLevelIcons = 1;
+  if (!buffer) return stm::FailWith(PatErrorNullRecord);
+  buffer[0] = '\0';
+  if (kind != kPaperLevelIcons) return 0;
+  stm::SetPatError(PatErrorNone);
+  return stm::WriteName(stm::PaperLevelIcon(amount), buffer);
+}
+
+uint32_t STM_CALL PatGetPrnParts(const PrnInfo* info, uint8_t index, PrnPart* part) {
+  return stm::CopyPart(info != nullptr, index, part);
+}
+
+uint32_t STM_CALL PatGetPrnParts_Ex(const PrnInfoEx* info, uint8_t index, PrnPart* part) {
+  return stm::CopyPart(info != nullptr, index, part);
+}
