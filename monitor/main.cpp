@@ -36,6 +36,12 @@ void Describe(CLI::App& app, Options& options) {
       ->option_text(" ");
   app.add_option("--reply", options.reply_file, "show a saved reply instead of asking a printer")
       ->option_text("FILE  ('-': standard input)");
+  app.add_option("--device-id", options.device_id,
+                 "show what a Device ID says, alone or beside the poll")
+      ->option_text("TEXT");
+  app.add_option("--record", options.record, "which of the library's records answers, default list")
+      ->option_text("list|flat")
+      ->check(CLI::IsMember({"list", "flat"}));
   app.add_option("--save-reply", options.save_file, "keep the reply for later")
       ->option_text("FILE");
   app.add_flag("--json", options.json, "one JSON object on standard output");
@@ -97,9 +103,12 @@ int Simulate(const Options& options, const Scenario& scenario) {
   return 0;
 }
 
+Source SourceOf(const Options& options, std::string name) {
+  return {std::move(name), "", options.device_id,
+          options.record == "flat" ? RecordKind::Flat : RecordKind::List};
+}
+
 Snapshot AskFile(const Options& options) {
-  const std::string source =
-      options.reply_file == "-" ? "standard input" : "saved reply " + options.reply_file;
   std::string bytes;
   const std::string trouble = ReadWholeFile(options.reply_file, kLongestReply, bytes);
   Exchange exchange;
@@ -109,15 +118,19 @@ Snapshot AskFile(const Options& options) {
     exchange.outcome = Outcome::Unreadable;
     exchange.detail = trouble;
   }
-  return ReadExchange(source, "", std::move(exchange));
+  const bool standard = options.reply_file == "-";
+  return ReadExchange(
+      SourceOf(options, standard ? "standard input" : "saved reply " + options.reply_file),
+      std::move(exchange));
 }
 
-Snapshot AskNetwork(const Options& options, const Target& target, const std::string& source) {
+Snapshot AskNetwork(const Options& options, const Target& target, const std::string& name) {
   const auto timeout = std::chrono::milliseconds(static_cast<int64_t>(options.timeout * 1000));
   const auto begin = std::chrono::steady_clock::now();
-  std::string query = BuildQuery();
-  Exchange exchange = AskPrinter(target, query, timeout);
-  Snapshot snapshot = ReadExchange(source, std::move(query), std::move(exchange));
+  Source source = SourceOf(options, name);
+  source.query = BuildQuery();
+  Exchange exchange = AskPrinter(target, source.query, timeout);
+  Snapshot snapshot = ReadExchange(std::move(source), std::move(exchange));
   snapshot.took = std::chrono::duration_cast<std::chrono::milliseconds>(
       std::chrono::steady_clock::now() - begin);
   return snapshot;
@@ -132,11 +145,11 @@ int Report(const Options& options, const Snapshot& snapshot) {
   }
   if (options.json) {
     Print(JsonReport(snapshot));
-  } else if (snapshot.told) {
+  } else if (snapshot.told || snapshot.identity) {
     Print(TextReport(snapshot));
   }
   if (options.raw) Print((options.json ? "" : "\n") + RawReport(snapshot));
-  if (!snapshot.trouble.empty()) Fail(CleanUtf8(snapshot.source + ": " + snapshot.trouble));
+  if (!snapshot.trouble.empty()) Fail(CleanUtf8(snapshot.source.name + ": " + snapshot.trouble));
   return status;
 }
 
@@ -149,12 +162,32 @@ int PollSimulated(const Options& options, const Scenario& scenario) {
                 AskNetwork(options, target, "simulated printer, scenario '" + scenario.name + "'"));
 }
 
+// A Device ID that stands alone on the command line is shown without asking anybody.
+bool OnlyDeviceId(const Options& options) {
+  return !options.device_id.empty() && options.printer.empty() && options.reply_file.empty() &&
+         options.scenario.empty() && options.simulate.empty();
+}
+
+int ShowDeviceId(const Options& options) {
+  Snapshot snapshot = ReadIdentity(SourceOf(options, ""));
+  const Identity& identity = *snapshot.identity;
+  if (identity.maker.empty() && identity.model.empty() && identity.description.empty() &&
+      identity.languages.empty()) {
+    return Fail(
+        "the Device ID has none of the fields MFG:, CMD:, MDL: and DES:, each ended by ';'.");
+  }
+  snapshot.verdict = Verdict::Fine;
+  return Report(options, snapshot);
+}
+
 int Run(const Options& options) {
   if (options.scenario == "list") return ListScenarios();
+  if (OnlyDeviceId(options)) return ShowDeviceId(options);
   Scenario scenario;
   const bool simulated = options.printer.empty() && options.reply_file.empty();
   if (simulated) {
-    const std::string wrong = LoadScenario(options.scenario, scenario);
+    const std::string wrong =
+        LoadScenario(options.scenario.empty() ? "ready" : options.scenario, scenario);
     if (!wrong.empty()) return Fail(wrong);
   }
   if (!options.simulate.empty()) return Simulate(options, scenario);

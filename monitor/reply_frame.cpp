@@ -68,4 +68,19 @@ std::vector<Block> SplitBlocks(std::string_view reply) {
   return blocks;
 }
 
+std::vector<std::string> Fields(const Block& block) {
+  std::vector<std::string> fields;
+  std::string_view rest = block.bytes;
+  if (rest.ends_with('\n')) rest.remove_suffix(1);
+  if (rest.ends_with("\x1B ")) rest.remove_suffix(2);
+  if (rest.size() < 3) return fields;  // ESC, letter, CR
+  rest.remove_prefix(3);
+  while (!rest.empty()) {
+    const size_t end = rest.find('\r');
+    fields.emplace_back(rest.substr(0, end));
+    rest.remove_prefix(end == std::string_view::npos ? rest.size() : end + 1);
+  }
+  return fields;
+}
+
 }  // namespace stmon

@@ -8,6 +8,7 @@
 #pragma once
 
 #include <cstddef>
+#include <string>
 #include <string_view>
 #include <vector>
 
@@ -31,5 +32,8 @@ struct Block {
 };
 
 std::vector<Block> SplitBlocks(std::string_view reply);
+
+// The fields of a block, without what frames them; none for the end marker.
+std::vector<std::string> Fields(const Block& block);
 
 }  // namespace stmon

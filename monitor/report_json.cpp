@@ -1,6 +1,7 @@
 #include <algorithm>
 #include <ctime>
 
+#include "labels.h"
 #include "nlohmann/json.hpp"
 #include "reports.h"
 #include "safe_text.h"
@@ -9,20 +10,6 @@ namespace stmon {
 namespace {
 
 using Json = nlohmann::ordered_json;
-
-// "2001-02-03T04:05:06Z"
-std::string UtcText(std::chrono::system_clock::time_point when) {
-  const std::time_t seconds = std::chrono::system_clock::to_time_t(when);
-  std::tm parts{};
-#ifdef _WIN32
-  gmtime_s(&parts, &seconds);
-#else
-  gmtime_r(&seconds, &parts);
-#endif
-  char text[32];
-  std::strftime(text, sizeof text, "%Y-%m-%dT%H:%M:%SZ", &parts);
-  return text;
-}
 
 Json AlertJson(const Reason& reason) {
   Json json{{"code", reason.alert}, {"name", AlertName(reason.alert)}, {"group", reason.group}};
@@ -60,35 +47,90 @@ bool IsDominant(const Snapshot& snapshot, uint32_t code) {
 
 Json TrayJson(const Tray& tray) {
   Json json{{"id", tray.id}, {"name", TrayLabel(tray.id)}, {"paper_code", tray.paper}};
+  if (tray.paper != 0) json["paper"] = PaperLabel(tray.paper);
   if (tray.level) json["level"] = *tray.level;
   return json;
 }
 
+Json OptionJson(const Option& option) {
+  Json json{{"code", option.code}, {"name", OptionLabel(option.code)}};
+  if (option.value && *option.value != 0) json["value"] = *option.value;
+  return json;
+}
+
+Json LanguageJson(uint32_t code) {
+  return {{"code", code}, {"name", LanguageLabel(code)}};
+}
+
+Json IdentityJson(const Identity& identity) {
+  Json json = Json::object();
+  if (!identity.maker.empty()) json["maker"] = EscapeBytes(identity.maker);
+  if (!identity.model.empty()) json["model"] = EscapeBytes(identity.model);
+  if (!identity.description.empty()) json["description"] = EscapeBytes(identity.description);
+  if (identity.model_code) json["model_code"] = *identity.model_code;
+  for (const uint32_t code : identity.languages)
+    json["languages"].push_back(LanguageJson(code));
+  return json;
+}
+
+void AddState(Json& json, const Snapshot& snapshot) {
+  json["online"] = snapshot.online;
+  json["printer_state"] = StateWord(snapshot);
+  json["printer_state_reasons"] = StateReasons(snapshot);
+  json["conditions"] = Json::array();
+  for (const Condition& condition : snapshot.conditions)
+    json["conditions"].push_back(ConditionJson(condition, IsDominant(snapshot, condition.code)));
+  if (snapshot.current_tray) json["tray_in_use"] = *snapshot.current_tray;
+  if (snapshot.current_bin) json["bin_in_use"] = *snapshot.current_bin;
+  for (const Tray& tray : snapshot.trays)
+    json["trays"].push_back(TrayJson(tray));
+  for (const Bin& bin : snapshot.bins)
+    json["bins"].push_back({{"id", bin.id}, {"state", bin.state}});
+}
+
+void AddEquipment(Json& json, const Snapshot& snapshot) {
+  if (snapshot.options) {
+    json["options"] = Json::array();
+    for (const Option& option : *snapshot.options)
+      json["options"].push_back(OptionJson(option));
+  }
+  for (const std::string& version : snapshot.versions)
+    json["versions"].push_back(EscapeBytes(version));
+  if (snapshot.number) json["number"] = *snapshot.number;
+  if (snapshot.language) json["language"] = LanguageJson(*snapshot.language);
+  if (!snapshot.fonts.empty()) json["font_codes"] = snapshot.fonts;
+  for (const std::string& name : snapshot.font_names)
+    json["fonts"].push_back(EscapeBytes(name));
+}
+
 }  // namespace
+
+std::string UtcText(std::chrono::system_clock::time_point when) {
+  const std::time_t seconds = std::chrono::system_clock::to_time_t(when);
+  std::tm parts{};
+#ifdef _WIN32
+  gmtime_s(&parts, &seconds);
+#else
+  gmtime_r(&seconds, &parts);
+#endif
+  char text[32];
+  std::strftime(text, sizeof text, "%Y-%m-%dT%H:%M:%SZ", &parts);
+  return text;
+}
 
 std::string JsonReport(const Snapshot& snapshot) {
   Json json;
-  json["source"] = CleanUtf8(snapshot.source);
+  if (!snapshot.source.name.empty()) json["source"] = CleanUtf8(snapshot.source.name);
   json["time"] = UtcText(snapshot.when);
-  json["milliseconds"] = snapshot.took.count();
   json["outcome"] = OutcomeWord(snapshot.exchange.outcome);
+  if (snapshot.took.count() != 0) json["milliseconds"] = snapshot.took.count();
   if (!snapshot.trouble.empty()) json["trouble"] = CleanUtf8(snapshot.trouble);
   json["exit_status"] = static_cast<int>(snapshot.verdict);
+  if (snapshot.identity) json["device_id"] = IdentityJson(*snapshot.identity);
   if (snapshot.told) {
-    json["online"] = snapshot.online;
-    json["printer_state"] = StateWord(snapshot);
-    json["printer_state_reasons"] = StateReasons(snapshot);
-    json["conditions"] = Json::array();
-    for (const Condition& condition : snapshot.conditions)
-      json["conditions"].push_back(ConditionJson(condition, IsDominant(snapshot, condition.code)));
-    if (snapshot.current_tray) json["tray_in_use"] = *snapshot.current_tray;
-    if (snapshot.current_bin) json["bin_in_use"] = *snapshot.current_bin;
-    json["trays"] = Json::array();
-    for (const Tray& tray : snapshot.trays)
-      json["trays"].push_back(TrayJson(tray));
-    json["bins"] = Json::array();
-    for (const Bin& bin : snapshot.bins)
-      json["bins"].push_back({{"id", bin.id}, {"state", bin.state}});
+    json["record"] = snapshot.source.kind == RecordKind::Flat ? "flat" : "list";
+    AddState(json, snapshot);
+    AddEquipment(json, snapshot);
   }
   return json.dump() + "\n";
 }

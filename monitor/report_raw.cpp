@@ -39,18 +39,10 @@ const char* Meaning(char letter, bool asked) {
 }
 
 // The fields of a block, as a reader would see them.
-std::string Fields(const Block& block) {
-  if (block.letter == ' ') return {};
+std::string FieldText(const Block& block) {
   std::string text;
-  std::string_view rest = block.bytes.substr(std::min<size_t>(block.bytes.size(), 2));
-  if (rest.ends_with('\n')) rest.remove_suffix(1);
-  if (rest.ends_with("\x1B ")) rest.remove_suffix(2);
-  if (rest.starts_with('\r')) rest.remove_prefix(1);
-  while (!rest.empty()) {
-    const size_t end = rest.find('\r');
-    text += (text.empty() ? "" : "  ") + EscapeBytes(rest.substr(0, end));
-    rest.remove_prefix(end == std::string_view::npos ? rest.size() : end + 1);
-  }
+  for (const std::string& field : Fields(block))
+    text += (text.empty() ? "" : "  ") + EscapeBytes(field);
   return text;
 }
 
@@ -95,7 +87,7 @@ void AddReply(std::string& report, const Exchange& exchange) {
     } else {
       report += std::string("  ") + EscapeBytes({&block.letter, 1}) + "   " +
                 Meaning(block.letter, false) + "\n";
-      const std::string fields = Fields(block);
+      const std::string fields = FieldText(block);
       if (!fields.empty()) report += "      " + fields + "\n";
     }
     AddLines(report, block.bytes);
@@ -110,7 +102,7 @@ void AddReply(std::string& report, const Exchange& exchange) {
 
 std::string RawReport(const Snapshot& snapshot) {
   std::string report;
-  if (!snapshot.query.empty()) AddQuery(report, snapshot.query);
+  if (!snapshot.source.query.empty()) AddQuery(report, snapshot.source.query);
   AddReply(report, snapshot.exchange);
   return report;
 }

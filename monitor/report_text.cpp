@@ -1,10 +1,11 @@
+#include "labels.h"
 #include "reports.h"
 #include "safe_text.h"
 
 namespace stmon {
 namespace {
 
-constexpr size_t kLabelWidth = 12;  // columns
+constexpr size_t kLabelWidth = 14;  // columns
 
 void AddRow(std::string& report, std::string_view label, std::string_view value) {
   report += label;
@@ -40,28 +41,67 @@ std::string BinText(const Bin& bin, bool in_use) {
   return text;
 }
 
+void AddList(std::string& report, std::string_view label, const std::vector<std::string>& values) {
+  for (const std::string& value : values) {
+    AddRow(report, label, value);
+    label = "";
+  }
+}
+
+std::string Joined(const std::vector<std::string>& values) {
+  std::string text;
+  for (const std::string& value : values)
+    text += (text.empty() ? "" : ", ") + value;
+  return text;
+}
+
+template <class Item, class Name>
+std::vector<std::string> Names(const std::vector<Item>& items, Name name) {
+  std::vector<std::string> names;
+  for (const Item& item : items)
+    names.push_back(name(item));
+  return names;
+}
+
+void AddIdentity(std::string& report, const Identity& identity) {
+  if (!identity.model.empty()) AddRow(report, "Model", EscapeBytes(identity.model));
+  if (!identity.maker.empty()) AddRow(report, "Maker", EscapeBytes(identity.maker));
+  if (!identity.description.empty() && identity.description != identity.model)
+    AddRow(report, "Described as", EscapeBytes(identity.description));
+  if (!identity.languages.empty())
+    AddRow(report, "Speaks", Joined(Names(identity.languages, LanguageLabel)));
+}
+
+void AddEquipment(std::string& report, const Snapshot& snapshot) {
+  if (snapshot.options) {
+    const auto names =
+        Names(*snapshot.options, [](const Option& option) { return OptionLabel(option.code); });
+    AddRow(report, "Options", names.empty() ? "none" : Joined(names));
+  }
+  if (snapshot.language) AddRow(report, "Language", LanguageLabel(*snapshot.language));
+  if (!snapshot.versions.empty())
+    AddRow(report, "Versions", Joined(Names(snapshot.versions, EscapeBytes)));
+  if (snapshot.number) AddRow(report, "Number", std::to_string(*snapshot.number));
+  if (!snapshot.font_names.empty())
+    AddRow(report, "Fonts", Joined(Names(snapshot.font_names, EscapeBytes)));
+}
+
 }  // namespace
 
 std::string TextReport(const Snapshot& snapshot) {
   std::string report;
-  AddRow(report, "Printer", CleanUtf8(snapshot.source));
+  if (!snapshot.source.name.empty()) AddRow(report, "Printer", CleanUtf8(snapshot.source.name));
+  if (snapshot.identity) AddIdentity(report, *snapshot.identity);
   if (!snapshot.told) return report;
-  const char* label = "Status";
-  for (const Condition& condition : snapshot.conditions) {
-    AddRow(report, label, ConditionText(condition));
-    label = "";
-  }
+  AddList(report, "Status", Names(snapshot.conditions, ConditionText));
   AddRow(report, "Online", snapshot.online ? "yes" : "no");
-  label = "Trays";
-  for (const Tray& tray : snapshot.trays) {
-    AddRow(report, label, TrayText(tray, snapshot.current_tray == tray.id));
-    label = "";
-  }
-  label = "Bins";
-  for (const Bin& bin : snapshot.bins) {
-    AddRow(report, label, BinText(bin, snapshot.current_bin == bin.id));
-    label = "";
-  }
+  AddList(report, "Trays", Names(snapshot.trays, [&](const Tray& tray) {
+            return TrayText(tray, snapshot.current_tray == tray.id);
+          }));
+  AddList(report, "Bins", Names(snapshot.bins, [&](const Bin& bin) {
+            return BinText(bin, snapshot.current_bin == bin.id);
+          }));
+  AddEquipment(report, snapshot);
   return report;
 }
 

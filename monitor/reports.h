@@ -1,6 +1,9 @@
-// One snapshot as text, as JSON, or as its bytes. All are UTF-8 and end with a line feed.
+// One snapshot as text, as JSON, as its bytes, or as metrics. All are UTF-8 and end with a line
+// feed.
 #pragma once
 
+#include <chrono>
+#include <optional>
 #include <string>
 
 #include "snapshot.h"
@@ -10,5 +13,13 @@ namespace stmon {
 std::string TextReport(const Snapshot& snapshot);
 std::string JsonReport(const Snapshot& snapshot);
 std::string RawReport(const Snapshot& snapshot);
+
+// Prometheus text. Nothing but the time of the last good answer is told of a printer that does not
+// answer: a series that ends is better than one that is no longer true.
+std::string MetricsReport(const Snapshot& snapshot,
+                          std::optional<std::chrono::system_clock::time_point> last_answer);
+
+// "2001-02-03T04:05:06Z"
+std::string UtcText(std::chrono::system_clock::time_point when);
 
 }  // namespace stmon

@@ -15,6 +15,7 @@ struct OutcomeRow {
 
 constexpr OutcomeRow kOutcomes[] = {
     {Outcome::Answered, "answered", nullptr},
+    {Outcome::NotAsked, "not-asked", nullptr},
     {Outcome::NameUnknown, "name-unknown",
      "no such host. Check the name, or give the printer's IP address."},
     {Outcome::Refused, "refused",
@@ -84,35 +85,71 @@ Condition LookUp(uint32_t code) {
   return condition;
 }
 
-void ReadStatus(Snapshot& snapshot, const Record& record) {
-  snapshot.online = record.online == 1;
-  snapshot.has_error = record.hasError == 1;
-  uint32_t left = record.statusCount;
-  for (const StatusNode* node = record.statusList; node && left > 0; node = node->next, --left) {
-    const uint32_t code = node->code;
+RecordView ChosenView(const Snapshot& snapshot) {
+  return snapshot.source.kind == RecordKind::Flat ? ViewOf(*snapshot.flat)
+                                                  : ViewOf(*snapshot.record);
+}
+
+void TakeStatus(Snapshot& snapshot, const RecordView& view) {
+  snapshot.online = view.online;
+  snapshot.has_error = view.has_error;
+  for (const uint32_t code : view.codes) {
     const bool repeated = std::any_of(snapshot.conditions.begin(), snapshot.conditions.end(),
                                       [&](const Condition& other) { return other.code == code; });
     if (!repeated) snapshot.conditions.push_back(LookUp(code));
   }
-  if (record.currentTray != 0) snapshot.current_tray = record.currentTray;
-  if (record.currentBin != 0 && record.currentBin != BinUnknown)
-    snapshot.current_bin = record.currentBin;
+  if (view.current_tray != 0) snapshot.current_tray = view.current_tray;
+  if (view.current_bin != 0 && view.current_bin != BinUnknown)
+    snapshot.current_bin = view.current_bin;
 }
 
-void ReadTrays(Snapshot& snapshot, const Record& record, bool levels_told) {
-  uint32_t left = record.trayCount;
-  for (const TrayNode* node = record.trayList; node && left > 0; node = node->next, --left) {
-    if (node->trayId == 0) continue;
-    Tray tray{.id = node->trayId, .paper = node->paperCode, .level = {}};
-    if (levels_told) tray.level = node->paperLevel;
+std::vector<std::string> FontNames(const std::vector<Block>& blocks) {
+  std::vector<std::string> names;
+  for (const Block& block : blocks) {
+    if (block.letter == 'F' && block.whole) names = Fields(block);
+  }
+  return names;
+}
+
+// A field of the record means something only when its block was in the reply.
+void TakeBlocks(Snapshot& snapshot, const RecordView& view, const std::vector<Block>& blocks) {
+  for (Tray tray : view.trays) {
+    if (tray.id == 0) continue;
+    if (!Has(blocks, 'Z')) tray.level.reset();
     snapshot.trays.push_back(tray);
   }
+  snapshot.bins = view.bins;
+  for (const std::string& version : view.versions) {
+    if (!version.empty()) snapshot.versions.push_back(version);
+  }
+  if (Has(blocks, 'M')) snapshot.number = view.number;
+  if (Has(blocks, 'E')) snapshot.language = view.language;
+  snapshot.fonts = view.fonts;
+  snapshot.font_names = FontNames(blocks);
+  if (Has(blocks, 'A') || Has(blocks, 'C') || Has(blocks, 'D')) snapshot.options = view.options;
 }
 
-void ReadBins(Snapshot& snapshot, const Record& record) {
-  uint32_t left = record.binCount;
-  for (const BinNode* node = record.binList; node && left > 0; node = node->next, --left)
-    snapshot.bins.push_back({node->binId, node->binState});
+void ReadDeviceId(Snapshot& snapshot) {
+  const std::string& text = snapshot.source.device_id;
+  if (text.empty()) return;
+  const auto length = static_cast<uint32_t>(text.size());
+  SetModelInfoExFromDeviceID(snapshot.record.get(), text.c_str(), length);
+  SetModelInfoFromDeviceID(snapshot.flat.get(), text.c_str(), length);
+  const RecordView view = ChosenView(snapshot);
+  Identity identity{view.maker, view.model, view.description, {}, view.languages};
+  if (!view.model.empty() || !view.description.empty()) {
+    if (view.model_code != ModelUnknown) identity.model_code = view.model_code;
+  }
+  snapshot.identity = identity;
+}
+
+Snapshot NewSnapshot(Source source) {
+  Snapshot snapshot;
+  snapshot.source = std::move(source);
+  snapshot.when = std::chrono::system_clock::now();
+  snapshot.flat->structSize = PrnInfoSize;
+  ReadDeviceId(snapshot);
+  return snapshot;
 }
 
 const Condition* Find(const Snapshot& snapshot, uint32_t code) {
@@ -155,7 +192,8 @@ Verdict Judge(const Snapshot& snapshot) {
 }  // namespace
 
 std::string BuildQuery() {
-  constexpr uint32_t kGroups = GroupStatus | GroupStatusList | GroupTrays | GroupBins;
+  constexpr uint32_t kGroups = GroupStatus | GroupStatusList | GroupModelInfo | GroupTrays |
+                               GroupBins | GroupDuplex | GroupOptions | GroupEmulation | GroupFonts;
   uint32_t size = 0;
   CreateQueryCommand(kGroups, nullptr, &size);
   std::string query(size + 1, '\0');
@@ -165,47 +203,36 @@ std::string BuildQuery() {
   return query;
 }
 
-Snapshot ReadExchange(std::string source, std::string query, Exchange exchange) {
-  Snapshot snapshot;
-  snapshot.source = std::move(source);
-  snapshot.query = std::move(query);
+Snapshot ReadIdentity(Source source) {
+  Snapshot snapshot = NewSnapshot(std::move(source));
+  snapshot.exchange.outcome = Outcome::NotAsked;
+  return snapshot;
+}
+
+Snapshot ReadExchange(Source source, Exchange exchange) {
+  Snapshot snapshot = NewSnapshot(std::move(source));
   snapshot.exchange = std::move(exchange);
-  snapshot.when = std::chrono::system_clock::now();
   snapshot.trouble = TroubleText(snapshot.exchange);
   const auto outcome = snapshot.exchange.outcome;
   if (outcome != Outcome::Answered && outcome != Outcome::CutOff) return snapshot;
 
   const auto blocks = SplitBlocks(snapshot.exchange.reply);
   const std::string bytes = WholeBlocks(blocks);
-  Record& record = *snapshot.record;
-  SetPrnInfoExFromReadbackCmd(&record, bytes.data(), static_cast<int32_t>(bytes.size()));
+  const auto length = static_cast<int32_t>(bytes.size());
+  SetPrnInfoExFromReadbackCmd(snapshot.record.get(), bytes.data(), length);
+  SetPrnInfoFromReadbackCmd(snapshot.flat.get(), bytes.data(), length);
   snapshot.told = Has(blocks, 'S');
   if (!snapshot.told) {
     if (snapshot.trouble.empty())
-      snapshot.trouble =
-          "the reply has no status block, so nothing is known of the printer's state.";
+      snapshot.trouble = "the reply has no status block, so the printer's state is not known.";
     return snapshot;
   }
-  ReadStatus(snapshot, record);
-  ReadTrays(snapshot, record, Has(blocks, 'Z'));
-  ReadBins(snapshot, record);
+  const RecordView view = ChosenView(snapshot);
+  TakeStatus(snapshot, view);
+  TakeBlocks(snapshot, view, blocks);
   ChooseDominant(snapshot);
   snapshot.verdict = Judge(snapshot);
   return snapshot;
-}
-
-std::string TrayLabel(uint32_t id) {
-  if (id == TrayBypass) return "Bypass tray";
-  if (id == 2) return "Multi-purpose tray";
-  if (id >= 3 && id <= 7) return "Tray " + std::to_string(id - 2);
-  return "Tray with id " + std::to_string(id);
-}
-
-std::string PaperLabel(uint32_t code) {
-  if (code == 0) return {};
-  if (code == PaperNone) return "no paper";
-  if (code == PaperTrayMissing) return "not in place";
-  return "paper code " + std::to_string(code);
 }
 
 std::vector<std::string> StateReasons(const Snapshot& snapshot) {

@@ -12,23 +12,13 @@
 
 #include "reasons.h"
 #include "record.h"
+#include "record_view.h"
 #include "transport.h"
 
 namespace stmon {
 
 // The exit status, by the convention of monitoring plug-ins.
 enum class Verdict { Fine = 0, Attention = 1, CannotPrint = 2, Unknown = 3 };
-
-struct Tray {
-  uint32_t id = 0;
-  uint32_t paper = 0;             // paper code, 0 not told
-  std::optional<uint32_t> level;  // as the printer reports it
-};
-
-struct Bin {
-  uint32_t id = 0;
-  uint32_t state = 0;
-};
 
 struct Condition {
   uint32_t code = 0;
@@ -37,15 +27,37 @@ struct Condition {
   const Reason* reason = nullptr;  // never null once read
 };
 
+// What the printer is, from its Device ID.
+struct Identity {
+  std::string maker;  // as the printer wrote it: bytes of which nobody knows the code page
+  std::string model;
+  std::string description;
+  std::optional<uint32_t> model_code;  // empty: not known to the library
+  std::vector<uint32_t> languages;     // emulation codes, 0 unknown
+};
+
+// Which of the library's two records answers.
+enum class RecordKind { List, Flat };
+
+// What a snapshot is read from.
+struct Source {
+  std::string name;   // what was asked, for people
+  std::string query;  // the bytes that were sent; empty when a saved reply is shown
+  std::string device_id;
+  RecordKind kind = RecordKind::List;
+};
+
 struct Snapshot {
-  std::string source;   // what was asked, for people
+  Source source;
   std::string trouble;  // why there is no (whole) answer, for people; empty when all is well
   Exchange exchange;
-  std::string query;
   std::chrono::system_clock::time_point when;
   std::chrono::milliseconds took{};
 
   std::shared_ptr<Record> record = std::make_shared<Record>();
+  std::shared_ptr<PrnInfo> flat = std::make_shared<PrnInfo>();
+
+  std::optional<Identity> identity;
   bool told = false;  // a status block arrived: what follows means something
   bool online = false;
   bool has_error = false;
@@ -55,20 +67,22 @@ struct Snapshot {
   std::optional<uint32_t> current_bin;
   std::vector<Tray> trays;
   std::vector<Bin> bins;
+  std::vector<std::string> versions;  // as the printer wrote them
+  std::optional<uint32_t> number;
+  std::optional<uint32_t> language;     // emulation code, 0 unknown
+  std::vector<uint32_t> fonts;          // codes of the fonts that the library knows
+  std::vector<std::string> font_names;  // all, as the printer wrote them
+  std::optional<std::vector<Option>> options;
   Verdict verdict = Verdict::Unknown;
 };
 
 // The query for all that stmon shows.
 std::string BuildQuery();
 
-// Reads an exchange into a snapshot. `source` names what was asked.
-Snapshot ReadExchange(std::string source, std::string query, Exchange exchange);
+Snapshot ReadExchange(Source source, Exchange exchange);
 
-// "Tray 1"
-std::string TrayLabel(uint32_t id);
-
-// "A4", or empty when the printer did not tell.
-std::string PaperLabel(uint32_t code);
+// A Device ID alone, without a poll.
+Snapshot ReadIdentity(Source source);
 
 // The keywords of all conditions, "none" when there is none: printer-state-reasons.
 std::vector<std::string> StateReasons(const Snapshot& snapshot);

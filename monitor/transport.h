@@ -23,6 +23,7 @@ bool ParseTarget(std::string_view text, Target& target);
 std::string TargetText(const Target& target);
 
 enum class Outcome {
+  NotAsked,        // nobody tried
   Answered,        // a reply with its end marker
   NameUnknown,     // the host name does not resolve
   Refused,         // nobody listens at the port

@@ -21,7 +21,8 @@ stmon::Snapshot Poll(const std::string& name, std::chrono::milliseconds timeout 
   REQUIRE(printer);
   const std::string query = stmon::BuildQuery();
   const stmon::Target target{"127.0.0.1", stmon::PrinterPort(*printer)};
-  return stmon::ReadExchange("test", query, stmon::AskPrinter(target, query, timeout));
+  return stmon::ReadExchange({"test", query, "", stmon::RecordKind::List},
+                             stmon::AskPrinter(target, query, timeout));
 }
 
 struct PollCase {
@@ -71,12 +72,14 @@ TEST_CASE("a poll fills what the printer told, and only that") {
   CHECK(snapshot.trays[1].level == 50);
 
   const std::string only_status = "\x1BS\r32\r0\r1\n\x1B ";
-  const auto short_reply = stmon::ReadExchange("test", "", stmon::JudgeReply(only_status));
+  const auto short_reply = stmon::ReadExchange({"test", "", "", stmon::RecordKind::List},
+                                               stmon::JudgeReply(only_status));
   CHECK(short_reply.told);
   CHECK(short_reply.trays.empty());
   CHECK_FALSE(short_reply.current_bin);
   const auto no_levels =
-      stmon::ReadExchange("test", "", stmon::JudgeReply("\x1BS\r0\r0\r1\n\x1BT\r1\r6\n\x1B "));
+      stmon::ReadExchange({"test", "", "", stmon::RecordKind::List},
+                          stmon::JudgeReply("\x1BS\r0\r0\r1\n\x1BT\r1\r6\n\x1B "));
   REQUIRE(no_levels.trays.size() == 1);
   CHECK_FALSE(no_levels.trays[0].level);
 }

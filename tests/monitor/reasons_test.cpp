@@ -68,7 +68,8 @@ TEST_CASE("the exit status follows the dominant condition") {
     CAPTURE(row.why);
     const std::string reply =
         "\x1BS\r" + row.status + (row.online ? "\r0" : "\r1") + "\r1\r1\n\x1B ";
-    const auto snapshot = stmon::ReadExchange("test", "", stmon::JudgeReply(reply));
+    const auto snapshot =
+        stmon::ReadExchange({"test", "", "", stmon::RecordKind::List}, stmon::JudgeReply(reply));
     CHECK(snapshot.verdict == row.verdict);
     CHECK(stmon::StateReasons(snapshot) == row.reasons);
   }

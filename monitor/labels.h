@@ -1,0 +1,14 @@
+// Names of trays, papers, options and printer languages for people, in UTF-8.
+#pragma once
+
+#include <cstdint>
+#include <string>
+
+namespace stmon {
+
+std::string TrayLabel(uint32_t id);        // "Tray 1"
+std::string PaperLabel(uint32_t code);     // "A4"; empty for 0, a paper that was not told
+std::string OptionLabel(uint32_t code);    // "Duplex unit"
+std::string LanguageLabel(uint32_t code);  // "NVDL"
+
+}  // namespace stmon
