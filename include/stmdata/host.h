@@ -38,11 +38,15 @@ typedef struct BITMAP { /* 24 bytes */
 } BITMAP;
 typedef struct HRSRC__* HRSRC;
 typedef uint16_t LANGID;
+typedef uint32_t LCID;
+typedef uint16_t WCHAR; /* a UTF-16 unit */
 
 #define ERROR_SUCCESS 0
 #define ERROR_INVALID_HANDLE 6
+#define ERROR_INVALID_PARAMETER 87
 #define ERROR_INSUFFICIENT_BUFFER 122
 #define ERROR_INVALID_ADDRESS 487
+#define ERROR_INVALID_FLAGS 1004
 #define ERROR_RESOURCE_NAME_NOT_FOUND 1814
 #define ERROR_RESOURCE_LANG_NOT_FOUND 1815
 
@@ -115,6 +119,17 @@ STM_HOST_API BOOL STM_CALL HostDestroyDialog(HWND dialog);
 /* Sets the calling thread's language; 0 returns to the environment's. Result: the language set. */
 STM_HOST_API LANGID STM_CALL SetThreadUILanguage(LANGID language);
 STM_HOST_API LANGID STM_CALL GetThreadUILanguage(void);
+
+#define CP_ACP 0u /* the code page of the thread's language */
+
+/* Converts a text of code page 932, 1250, 1252 or CP_ACP to UTF-16.
+   flags   0
+   count   bytes at `text`, or -1 for all up to and with the terminator
+   size    units that `buffer` can take; 0 asks for the number needed
+   Result  units written. 0: GetLastError is 122 too small, 87 other code page or bad argument,
+           1004 bad flags. Bytes that stand for nothing become U+30FB in code page 932. */
+STM_HOST_API int32_t STM_CALL MultiByteToWideChar(UINT codePage, DWORD flags, const char* text,
+                                                  int32_t count, WCHAR* buffer, int32_t size);
 
 /* ---- Resources of the library ----------------------------------------------------------------
    For what PatFindResource and PatLoadResource return. The bytes are the library's constant data;

@@ -31,6 +31,15 @@ extern "C" {
 STM_API BOOL STM_CALL DllMain(HINSTANCE module, DWORD reason, void* reserved);
 #endif
 
+/* ---- Language -------------------------------------------------------------------------------- */
+
+/* Chooses the language of the _Ex text questions and of PatGetDeviceName, for the process. The
+   other texts follow the thread's language, and so do these until the first call.
+   name    EN DE FR IT ES NL SV DA NO CS HU PT PL FI or JP in any case; upper-cased in place.
+           Anything else chooses English
+   Result  1, 0 for null: the language stays */
+STM_API uint32_t STM_CALL PatSetLocale(char* name);
+
 /* ---- Resources -------------------------------------------------------------------------------
    The library carries the pictures and icons that its answers name. None of these calls sets
    PatGetError; a null result is all they tell, beside the system's own last error. */

@@ -40,6 +40,7 @@ BOOL STM_CALL BitBlt(HDC target, int x, int y, int width, int height, HDC source
                      int sourceY, DWORD rop);
 }
 
+#define LOCALE_IDEFAULTANSICODEPAGE 0x1004u
 #define MAKEINTRESOURCEA(id) (reinterpret_cast<char*>(static_cast<uintptr_t>(id)))
 #define RT_BITMAP MAKEINTRESOURCEA(2)
 #define RT_ICON MAKEINTRESOURCEA(3)
@@ -48,8 +49,8 @@ BOOL STM_CALL BitBlt(HDC target, int x, int y, int width, int height, HDC source
 
 extern "C" {
 
-// Resources: types and names are strings or 16-bit ids in place of the pointer; strings are compared
-// without regard to case, "#12" means id 12. The module is not looked at.
+// Resources: types and names are strings or 16-bit ids in place of the pointer; strings are
+// compared without regard to case, "#12" means id 12. The module is not looked at.
 
 // Any language: the thread's, else English, else the first that has the name.
 HRSRC STM_CALL FindResourceA(HINSTANCE module, const char* name, const char* type);
@@ -59,6 +60,24 @@ HRSRC STM_CALL FindResourceExA(HINSTANCE module, const char* type, const char* n
                                LANGID language);
 
 HGLOBAL STM_CALL LoadResource(HINSTANCE module, HRSRC resource);
+
+// Text: code pages 932, 1250 and 1252, and CP_ACP, here the one of the thread's language.
+
+// Flags 0 and the page's own default character only. `count` is in UTF-16 units, -1 for up to and
+// with the terminator; size 0 asks for the bytes needed.
+int32_t STM_CALL WideCharToMultiByte(UINT codePage, DWORD flags, const WCHAR* units, int32_t count,
+                                     char* buffer, int32_t size, const char* defaultCharacter,
+                                     BOOL* usedDefault);
+BOOL STM_CALL IsDBCSLeadByteEx(UINT codePage, uint8_t byte);
+
+// In place, CP_ACP.
+char* STM_CALL CharUpperA(char* text);
+
+// LOCALE_IDEFAULTANSICODEPAGE only: decimal digits.
+int32_t STM_CALL GetLocaleInfoA(LCID locale, DWORD type, char* buffer, int32_t size);
+
+// In the thread's language and CP_ACP; never splits a character.
+int32_t STM_CALL LoadStringA(HINSTANCE module, UINT id, char* buffer, int32_t size);
 
 }  // extern "C"
 #endif

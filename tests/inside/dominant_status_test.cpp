@@ -1,6 +1,6 @@
 #include "status/dominant_status.h"
 
-#include "../both_records.h"
+#include "both_records.h"
 #include "doctest/doctest.h"
 #include "status/trays.h"
 

@@ -1,0 +1,169 @@
+// Text in code pages, as the system's functions on Windows convert and load it. Where Windows takes
+// the system's ANSI code page, this takes the one of the thread's language.
+#include <cstdio>
+#include <cstring>
+
+#include "platform/linux/code_pages/code_page.h"
+#include "platform/linux/language.h"
+#include "platform/string_block.h"
+#include "platform/windows_api.h"
+
+namespace stm {
+namespace {
+
+struct LanguagePage {
+  uint8_t primaryLanguage;
+  uint32_t codePage;
+};
+
+constexpr LanguagePage kLanguagePages[] = {
+    {0x05, 1250},  // Czech
+    {0x0E, 1250},  // Hungarian
+    {0x15, 1250},  // Polish
+    {0x11, 932},   // Japanese
+    {0x00, 1252},  // closing row: every other language
+};
+
+uint32_t CodePageOfLanguage(LANGID language) {
+  const uint32_t wanted = language == kNeutral ? GetThreadUILanguage() : language;
+  const LanguagePage* row = kLanguagePages;
+  while (row->primaryLanguage && row->primaryLanguage != (wanted & 0x3FF))
+    ++row;
+  return row->codePage;
+}
+
+const CodePage* ThreadCodePage() {
+  return FindCodePage(CodePageOfLanguage(kNeutral));
+}
+
+const CodePage* AskedCodePage(UINT number) {
+  return number == CP_ACP ? ThreadCodePage() : FindCodePage(number);
+}
+
+int32_t FailWith(DWORD systemError) {
+  SetLastError(systemError);
+  return 0;
+}
+
+struct Conversion {
+  uint32_t units;  // taken
+  uint32_t bytes;  // written, or needed without a target
+};
+
+// Converts whole characters as long as they fit; without a target it only counts.
+Conversion Convert(const CodePage& page, const uint16_t* units, uint32_t count, char* target,
+                   uint32_t capacity) {
+  uint32_t unit = 0;
+  uint32_t bytes = 0;
+  for (; unit < count; ++unit) {
+    const uint16_t code = EncodeUnit(page, units[unit]);
+    const uint32_t width = code > 0xFF ? 2 : 1;
+    if (target) {
+      if (capacity - bytes < width) break;
+      if (width == 2) target[bytes] = static_cast<char>(code >> 8);
+      target[bytes + width - 1] = static_cast<char>(code);
+    }
+    bytes += width;
+  }
+  return {unit, bytes};
+}
+
+StringEntry FindText(HINSTANCE module, UINT id) {
+  HRSRC resource = FindResourceA(module, MAKEINTRESOURCEA(StringBlockOf(id)), RT_STRING);
+  const void* block = LockResource(LoadResource(module, resource));
+  if (!block) return {nullptr, 0};
+  return FindStringEntry(block, SizeofResource(module, resource), id);
+}
+
+}  // namespace
+}  // namespace stm
+
+extern "C" {
+
+int32_t STM_CALL WideCharToMultiByte(UINT codePage, DWORD flags, const WCHAR* units, int32_t count,
+                                     char* buffer, int32_t size, const char* defaultCharacter,
+                                     BOOL* usedDefault) {
+  using namespace stm;
+  const CodePage* page = AskedCodePage(codePage);
+  if (!page || !units || count == 0 || size < 0 || (size > 0 && !buffer) || defaultCharacter ||
+      usedDefault)
+    return FailWith(ERROR_INVALID_PARAMETER);
+  if (flags != 0) return FailWith(ERROR_INVALID_FLAGS);
+  uint32_t length = 0;
+  if (count > 0) {
+    length = static_cast<uint32_t>(count);
+  } else {
+    while (units[length++] != 0) {
+    }
+  }
+  char* target = size > 0 ? buffer : nullptr;
+  const Conversion done = Convert(*page, units, length, target, static_cast<uint32_t>(size));
+  if (done.units < length) return FailWith(ERROR_INSUFFICIENT_BUFFER);
+  return static_cast<int32_t>(done.bytes);
+}
+
+int32_t STM_CALL MultiByteToWideChar(UINT codePage, DWORD flags, const char* text, int32_t count,
+                                     WCHAR* buffer, int32_t size) {
+  using namespace stm;
+  const CodePage* page = AskedCodePage(codePage);
+  if (!page || !text || count == 0 || size < 0 || (size > 0 && !buffer))
+    return FailWith(ERROR_INVALID_PARAMETER);
+  if (flags != 0) return FailWith(ERROR_INVALID_FLAGS);
+  const auto length =
+      count > 0 ? static_cast<uint32_t>(count) : static_cast<uint32_t>(std::strlen(text) + 1);
+  int32_t written = 0;
+  for (uint32_t at = 0; at < length; ++written) {
+    if (size > 0 && written == size) return FailWith(ERROR_INSUFFICIENT_BUFFER);
+    const auto* bytes = reinterpret_cast<const uint8_t*>(text + at);
+    const Decoded decoded = DecodeAt(*page, bytes, length - at);
+    if (size > 0) buffer[written] = decoded.unit;
+    at += decoded.length;
+  }
+  return written;
+}
+
+BOOL STM_CALL IsDBCSLeadByteEx(UINT codePage, uint8_t byte) {
+  const stm::CodePage* page = stm::AskedCodePage(codePage);
+  return page && stm::IsLeadByte(*page, byte);
+}
+
+char* STM_CALL CharUpperA(char* text) {
+  const stm::CodePage& page = *stm::ThreadCodePage();
+  for (char* at = text; *at; ++at) {
+    const bool isDouble = stm::IsLeadByte(page, static_cast<uint8_t>(*at)) && at[1];
+    const auto first = static_cast<uint8_t>(at[0]);
+    if (isDouble) {
+      const auto code = static_cast<uint16_t>(first << 8 | static_cast<uint8_t>(at[1]));
+      const uint16_t capital = stm::CapitalOf(page, code);
+      *at++ = static_cast<char>(capital >> 8);
+      *at = static_cast<char>(capital);
+    } else {
+      *at = static_cast<char>(stm::CapitalOf(page, first));
+    }
+  }
+  return text;
+}
+
+int32_t STM_CALL GetLocaleInfoA(LCID locale, DWORD type, char* buffer, int32_t size) {
+  if (type != LOCALE_IDEFAULTANSICODEPAGE) return stm::FailWith(ERROR_INVALID_FLAGS);
+  char digits[12];
+  const uint32_t codePage = stm::CodePageOfLanguage(static_cast<LANGID>(locale));
+  const int32_t needed = std::snprintf(digits, sizeof digits, "%u", codePage) + 1;
+  if (size == 0) return needed;
+  if (size < needed || !buffer) return stm::FailWith(ERROR_INSUFFICIENT_BUFFER);
+  std::memcpy(buffer, digits, static_cast<size_t>(needed));
+  return needed;
+}
+
+int32_t STM_CALL LoadStringA(HINSTANCE module, UINT id, char* buffer, int32_t size) {
+  if (!buffer || size <= 0) return 0;
+  buffer[0] = '\0';
+  const stm::StringEntry entry = stm::FindText(module, id);
+  if (!entry.units) return 0;
+  const uint32_t bytes = stm::Convert(*stm::ThreadCodePage(), entry.units, entry.length, buffer,
+                                      static_cast<uint32_t>(size - 1))
+                             .bytes;
+  buffer[bytes] = '\0';
+  return static_cast<int32_t>(bytes);
+}
+}

@@ -1,0 +1,81 @@
+#include "resources/strings.h"
+
+#include <algorithm>
+#include <cstdlib>
+
+#include "platform/string_block.h"
+#include "platform/windows_api.h"
+#include "resources/language.h"
+#include "resources/module.h"
+
+namespace stm {
+namespace {
+
+StringEntry FindLocalizedEntry(uint32_t id, LANGID language) {
+  HINSTANCE module = ModuleHandle();
+  HRSRC resource =
+      FindResourceExA(module, RT_STRING, MAKEINTRESOURCEA(StringBlockOf(id)), language);
+  const void* block = resource ? LockResource(LoadResource(module, resource)) : nullptr;
+  if (!block) return {nullptr, 0};
+  return FindStringEntry(block, SizeofResource(module, resource), id);
+}
+
+// 0 when the system does not know.
+UINT CodePageOf(LANGID language) {
+  char digits[256];
+  if (!GetLocaleInfoA(language, LOCALE_IDEFAULTANSICODEPAGE, digits, sizeof digits)) return 0;
+  return static_cast<UINT>(std::strtoul(digits, nullptr, 10));
+}
+
+// Converts as many characters as fit in `capacity` bytes. A character takes two bytes at most, so
+// that half of what is too much can be dropped at once without dropping too much.
+int ConvertWhatFits(UINT codePage, const StringEntry& entry, char* buffer, int capacity) {
+  const auto* units = reinterpret_cast<const WCHAR*>(entry.units);
+  int count = static_cast<int>(entry.length);
+  while (count > 0 && capacity > 0) {
+    const int written =
+        WideCharToMultiByte(codePage, 0, units, count, buffer, capacity, nullptr, nullptr);
+    if (written > 0) return written;
+    const int needed = WideCharToMultiByte(codePage, 0, units, count, nullptr, 0, nullptr, nullptr);
+    count -= std::max(1, (needed - capacity + 1) / 2);
+  }
+  return 0;
+}
+
+// The system may have cut a double-byte character in two; the half is dropped.
+int32_t DropHalfCharacter(const char* text, int32_t length) {
+  int32_t at = 0;
+  while (at < length) {
+    const int32_t width = IsDBCSLeadByteEx(CP_ACP, static_cast<uint8_t>(text[at])) ? 2 : 1;
+    if (at + width > length) break;
+    at += width;
+  }
+  return at;
+}
+
+}  // namespace
+
+// A size of 1 has no room for a character; the system's call would mean something else by it.
+int32_t LoadModuleString(uint32_t id, char* buffer, int32_t size) {
+  if (!buffer || size <= 0) return 0;
+  buffer[0] = '\0';
+  if (size == 1) return 0;
+  int32_t length = LoadStringA(ModuleHandle(), id, buffer, size);
+  if (length == size - 1) length = DropHalfCharacter(buffer, length);
+  buffer[length] = '\0';
+  return length;
+}
+
+uint32_t LoadLocalizedString(uint32_t id, char* buffer, int32_t size) {
+  if (!buffer || size <= 0) return 0;
+  const LANGID language = SelectedLanguage();
+  StringEntry entry = FindLocalizedEntry(id, language);
+  if (!entry.units) return 0;
+  const UINT codePage = CodePageOf(language);
+  if (codePage == 0) return 0;
+  entry.length = std::min(entry.length, static_cast<uint32_t>(size));
+  buffer[ConvertWhatFits(codePage, entry, buffer, size - 1)] = '\0';
+  return 1;
+}
+
+}  // namespace stm
