@@ -44,6 +44,15 @@ constexpr Label kLanguages[] = {
     {0, "Language with code "}  // closing row
 };
 
+// Papers that the library names in Japanese or not at all.
+constexpr Label kPapers[] = {
+    {1, "no paper"},       //
+    {2, "free size"},      //
+    {34, "postcard"},      //
+    {41, "not in place"},  //
+    {0, ""},               // closing row: the library knows
+};
+
 std::string Find(const Label* row, uint32_t code) {
   while (row->code != 0 && row->code != code)
     ++row;
@@ -64,11 +73,25 @@ std::string LanguageLabel(uint32_t code) {
   return code == 0 ? "unknown" : Find(kLanguages, code);
 }
 
+std::string BinLabel(uint32_t id) {
+  return id == BinUnknown ? "Unknown bin" : "Bin " + std::to_string(id);
+}
+
+// The library names sizes in ASCII and the rest in Japanese; the kind of its picture tells how the
+// paper lies.
 std::string PaperLabel(uint32_t code) {
   if (code == 0) return {};
-  if (code == PaperNone) return "no paper";
-  if (code == PaperTrayMissing) return "not in place";
-  return "paper with code " + std::to_string(code);
+  for (const Label* row = kPapers; row->code != 0; ++row) {
+    if (row->code == code) return row->name;
+  }
+  char name[8] = "";
+  char picture[17] = "";
+  PatGetPaperName_Ex(nullptr, code, name);
+  PatGetPaperBitmap_Ex(nullptr, code, picture);
+  std::string label = name;
+  if (label.empty() || label[0] == '*') label = "paper with code " + std::to_string(code);
+  if (label.size() <= 3 && std::string_view(picture).ends_with("_R")) label += " rotated";
+  return label;
 }
 
 }  // namespace stmon

@@ -8,6 +8,7 @@ namespace stmon {
 
 std::string TrayLabel(uint32_t id);        // "Tray 1"
 std::string PaperLabel(uint32_t code);     // "A4"; empty for 0, a paper that was not told
+std::string BinLabel(uint32_t id);         // "Bin 1"
 std::string OptionLabel(uint32_t code);    // "Duplex unit"
 std::string LanguageLabel(uint32_t code);  // "NVDL"
 

@@ -1,5 +1,6 @@
 // stmon: asks a colour laser printer how it is, and says it.
-#include <cstdlib>
+#include <algorithm>
+#include <thread>
 
 #include "CLI/CLI.hpp"
 #include "console.h"
@@ -8,6 +9,7 @@
 #include "safe_text.h"
 #include "simulated_printer.h"
 #include "snapshot.h"
+#include "watch.h"
 
 namespace stmon {
 namespace {
@@ -32,10 +34,12 @@ void Describe(CLI::App& app, Options& options) {
   app.name("stmon");
   app.description("Asks a colour laser printer how it is.");
   app.footer(kFooter);
-  app.add_option("PRINTER", options.printer, "HOST or HOST:PORT, port 9100 unless given")
-      ->option_text(" ");
-  app.add_option("--reply", options.reply_file, "show a saved reply instead of asking a printer")
-      ->option_text("FILE  ('-': standard input)");
+  auto* printer =
+      app.add_option("PRINTER", options.printer, "HOST or HOST:PORT, port 9100 unless given")
+          ->option_text(" ");
+  auto* reply = app.add_option("--reply", options.reply_file,
+                               "show a saved reply instead of asking a printer")
+                    ->option_text("FILE  ('-': standard input)");
   app.add_option("--device-id", options.device_id,
                  "show what a Device ID says, alone or beside the poll")
       ->option_text("TEXT");
@@ -46,14 +50,24 @@ void Describe(CLI::App& app, Options& options) {
       ->option_text("FILE");
   app.add_flag("--json", options.json, "one JSON object on standard output");
   app.add_flag("--raw", options.raw, "show the bytes of query and reply, block by block");
+  auto* watch =
+      app.add_option("--watch", options.watch, "poll on and print what changes, until ended")
+          ->option_text("SECONDS")
+          ->check(CLI::Range(0.1, 86400.0));
+  app.add_option("--metrics", options.metrics_file, "write the state as Prometheus text")
+      ->option_text("FILE");
   app.add_option("--timeout", options.timeout, "for the whole poll, default 5")
       ->option_text("SECONDS")
       ->check(CLI::Range(0.1, 3600.0));
-  app.add_option("--simulate", options.simulate, "be a simulated printer at 127.0.0.1, until ended")
-      ->option_text("PORT");
-  app.add_option("--scenario", options.scenario,
-                 "what the simulated printer is like; 'list' names all")
-      ->option_text("NAME|FILE");
+  auto* simulate = app.add_option("--simulate", options.simulate,
+                                  "be a simulated printer at 127.0.0.1, until ended")
+                       ->option_text("PORT");
+  auto* scenario = app.add_option("--scenario", options.scenario,
+                                  "what the simulated printer is like; 'list' names all")
+                       ->option_text("NAME|FILE");
+  reply->excludes(printer)->excludes(watch);
+  simulate->excludes(printer)->excludes(reply)->excludes(watch);
+  scenario->excludes(printer)->excludes(reply);
   app.set_version_flag("--version", std::string("stmon ") + STMON_VERSION);
 }
 
@@ -136,13 +150,30 @@ Snapshot AskNetwork(const Options& options, const Target& target, const std::str
   return snapshot;
 }
 
-int Report(const Options& options, const Snapshot& snapshot) {
-  int status = static_cast<int>(snapshot.verdict);
+// Writes the files that the options ask for. Result: all could be written.
+bool WriteFiles(const Options& options, const Snapshot& snapshot,
+                std::optional<std::chrono::system_clock::time_point> last_answer) {
+  std::string wrong;
   if (!options.save_file.empty() && !snapshot.exchange.reply.empty()) {
-    const std::string wrong = WriteWholeFile(options.save_file, snapshot.exchange.reply);
-    if (!wrong.empty())
-      status = Fail("cannot write " + CleanUtf8(options.save_file) + ": " + wrong + ".");
+    wrong = WriteWholeFile(options.save_file, snapshot.exchange.reply);
+    if (!wrong.empty()) Fail("cannot write " + CleanUtf8(options.save_file) + ": " + wrong + ".");
   }
+  if (options.metrics_file.empty()) return wrong.empty();
+  const std::string trouble =
+      WriteWholeFile(options.metrics_file, MetricsReport(snapshot, last_answer));
+  if (!trouble.empty())
+    Fail("cannot write " + CleanUtf8(options.metrics_file) + ": " + trouble + ".");
+  return wrong.empty() && trouble.empty();
+}
+
+bool IsGood(const Snapshot& snapshot) {
+  return snapshot.told && snapshot.exchange.outcome == Outcome::Answered;
+}
+
+int Report(const Options& options, const Snapshot& snapshot) {
+  std::optional<std::chrono::system_clock::time_point> last_answer;
+  if (IsGood(snapshot)) last_answer = snapshot.when;
+  const bool written = WriteFiles(options, snapshot, last_answer);
   if (options.json) {
     Print(JsonReport(snapshot));
   } else if (snapshot.told || snapshot.identity) {
@@ -150,7 +181,39 @@ int Report(const Options& options, const Snapshot& snapshot) {
   }
   if (options.raw) Print((options.json ? "" : "\n") + RawReport(snapshot));
   if (!snapshot.trouble.empty()) Fail(CleanUtf8(snapshot.source.name + ": " + snapshot.trouble));
-  return status;
+  return written ? static_cast<int>(snapshot.verdict) : kTrouble;
+}
+
+// Polls until the process is ended from outside. One query at a time;
+// the connection is closed between polls.
+int WatchOn(const Options& options, const Target& target, const std::string& name) {
+  const auto interval = std::chrono::milliseconds(static_cast<int64_t>(options.watch * 1000));
+  Watch watch;
+  bool first_poll = true;
+  std::optional<std::chrono::system_clock::time_point> last_answer;
+  while (true) {
+    const Snapshot snapshot = AskNetwork(options, target, name);
+    const bool first = IsGood(snapshot) && !watch.good;
+    if (IsGood(snapshot)) last_answer = snapshot.when;
+    const auto events = Observe(watch, snapshot, std::chrono::steady_clock::now());
+    if (first) Print(options.json ? JsonReport(snapshot) : TextReport(snapshot) + "\n");
+    for (const Event& event : events) {
+      if (event.kind == EventKind::First && watch.failures == 0 && first) continue;
+      Print(options.json ? EventJson(event, snapshot) : EventText(event, snapshot));
+    }
+    if (options.raw && !events.empty()) Print(RawReport(snapshot));
+    // A file that cannot be written from the start is a mistake; later the disk may be full a
+    // while.
+    const bool written = WriteFiles(options, snapshot, last_answer);
+    if (!written && first_poll) return kTrouble;
+    first_poll = false;
+    std::this_thread::sleep_for(NextWait(watch, interval));
+  }
+}
+
+int Poll(const Options& options, const Target& target, const std::string& name) {
+  if (options.watch > 0) return WatchOn(options, target, name);
+  return Report(options, AskNetwork(options, target, name));
 }
 
 int PollSimulated(const Options& options, const Scenario& scenario) {
@@ -158,8 +221,7 @@ int PollSimulated(const Options& options, const Scenario& scenario) {
   const auto printer = StartPrinter(scenario, 0, trouble);
   if (!printer) return Fail("cannot start the simulated printer: " + CleanUtf8(trouble) + ".");
   const Target target{"127.0.0.1", PrinterPort(*printer)};
-  return Report(options,
-                AskNetwork(options, target, "simulated printer, scenario '" + scenario.name + "'"));
+  return Poll(options, target, "simulated printer, scenario '" + scenario.name + "'");
 }
 
 // A Device ID that stands alone on the command line is shown without asking anybody.
@@ -198,7 +260,7 @@ int Run(const Options& options) {
     return Fail("'" + EscapeBytes(options.printer) +
                 "' is not a printer's address; HOST, HOST:PORT or [IPV6]:PORT are.");
   }
-  return Report(options, AskNetwork(options, target, TargetText(target)));
+  return Poll(options, target, TargetText(target));
 }
 
 }  // namespace

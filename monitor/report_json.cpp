@@ -1,5 +1,4 @@
 #include <algorithm>
-#include <ctime>
 
 #include "labels.h"
 #include "nlohmann/json.hpp"
@@ -104,19 +103,6 @@ void AddEquipment(Json& json, const Snapshot& snapshot) {
 }
 
 }  // namespace
-
-std::string UtcText(std::chrono::system_clock::time_point when) {
-  const std::time_t seconds = std::chrono::system_clock::to_time_t(when);
-  std::tm parts{};
-#ifdef _WIN32
-  gmtime_s(&parts, &seconds);
-#else
-  gmtime_r(&seconds, &parts);
-#endif
-  char text[32];
-  std::strftime(text, sizeof text, "%Y-%m-%dT%H:%M:%SZ", &parts);
-  return text;
-}
 
 std::string JsonReport(const Snapshot& snapshot) {
   Json json;

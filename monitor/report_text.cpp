@@ -20,12 +20,6 @@ std::string Padded(std::string text, size_t width) {
   return text;
 }
 
-std::string ConditionText(const Condition& condition) {
-  const std::string code = "code " + std::to_string(condition.code);
-  return condition.known ? code + ", level " + std::to_string(condition.row.level)
-                         : code + ", unknown to this program";
-}
-
 std::string TrayText(const Tray& tray, bool in_use) {
   std::string text = Padded(TrayLabel(tray.id), 20) + Padded(PaperLabel(tray.paper), 16);
   if (tray.level) text += "level " + std::to_string(*tray.level);
@@ -35,8 +29,7 @@ std::string TrayText(const Tray& tray, bool in_use) {
 }
 
 std::string BinText(const Bin& bin, bool in_use) {
-  const std::string name = bin.id == BinUnknown ? "unknown" : std::to_string(bin.id);
-  std::string text = Padded("Bin " + name, 20) + "state " + std::to_string(bin.state);
+  std::string text = Padded(BinLabel(bin.id), 20) + "state " + std::to_string(bin.state);
   if (in_use) text = Padded(text, 48) + "in use";
   return text;
 }

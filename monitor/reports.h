@@ -19,7 +19,7 @@ std::string RawReport(const Snapshot& snapshot);
 std::string MetricsReport(const Snapshot& snapshot,
                           std::optional<std::chrono::system_clock::time_point> last_answer);
 
-// "2001-02-03T04:05:06Z"
-std::string UtcText(std::chrono::system_clock::time_point when);
+std::string UtcText(std::chrono::system_clock::time_point when);    // "2001-02-03T04:05:06Z"
+std::string LocalText(std::chrono::system_clock::time_point when);  // "2001-02-03 04:05:06"
 
 }  // namespace stmon

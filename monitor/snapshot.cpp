@@ -235,6 +235,20 @@ Snapshot ReadExchange(Source source, Exchange exchange) {
   return snapshot;
 }
 
+std::string ConditionText(const Condition& condition) {
+  const std::string keyword = condition.code == 0 ? "ready" : Keyword(*condition.reason);
+  return keyword + " (code " + std::to_string(condition.code) + ")";
+}
+
+std::string StatusText(const Snapshot& snapshot) {
+  std::string text = snapshot.online ? "" : "offline";
+  for (const uint32_t code : snapshot.dominant) {
+    const Condition* condition = Find(snapshot, code);
+    if (condition) text += (text.empty() ? "" : ", ") + ConditionText(*condition);
+  }
+  return text;
+}
+
 std::vector<std::string> StateReasons(const Snapshot& snapshot) {
   std::vector<std::string> keywords;
   const auto add = [&](const Reason& reason) {

@@ -84,6 +84,10 @@ Snapshot ReadExchange(Source source, Exchange exchange);
 // A Device ID alone, without a poll.
 Snapshot ReadIdentity(Source source);
 
+// For people: "media-empty-error (code 32)".
+std::string ConditionText(const Condition& condition);
+std::string StatusText(const Snapshot& snapshot);
+
 // The keywords of all conditions, "none" when there is none: printer-state-reasons.
 std::vector<std::string> StateReasons(const Snapshot& snapshot);
 

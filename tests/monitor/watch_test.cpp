@@ -1,0 +1,100 @@
+#include "watch.h"
+
+#include <chrono>
+
+#include "doctest/doctest.h"
+#include "reports.h"
+
+using namespace std::chrono_literals;
+using stmon::EventKind;
+
+namespace {
+
+stmon::Snapshot Told(const std::string& status, const std::string& trays = "1\r6",
+                     const std::string& levels = "1\r50", bool online = true) {
+  const std::string reply = "\x1BS\r" + status + (online ? "\r0" : "\r1") + "\r1\r1\n\x1BT\r" +
+                            trays + "\n\x1BZ\r" + levels + "\n\x1B ";
+  return stmon::ReadExchange({"test", "", "", stmon::RecordKind::List}, stmon::JudgeReply(reply));
+}
+
+stmon::Snapshot Failed(stmon::Outcome outcome) {
+  stmon::Exchange exchange;
+  exchange.outcome = outcome;
+  return stmon::ReadExchange({"test", "", "", stmon::RecordKind::List}, exchange);
+}
+
+// "status changed, conditions came 32": what happened, without the words for people.
+std::string Summary(const std::vector<stmon::Event>& events) {
+  constexpr const char* kWords[] = {"first", "changed", "came", "went", "lost", "back"};
+  std::string text;
+  for (const stmon::Event& event : events) {
+    text += (text.empty() ? "" : ", ") + event.group + " " + kWords[static_cast<int>(event.kind)];
+    if (event.code) text += " " + std::to_string(*event.code);
+  }
+  return text;
+}
+
+}  // namespace
+
+TEST_CASE("each poll tells what changed since the last good answer, and nothing else") {
+  struct Step {
+    const char* why;
+    stmon::Snapshot snapshot;
+    const char* events;
+  };
+  const Step steps[] = {
+      {"off at the start", Failed(stmon::Outcome::Refused), "printer lost"},
+      {"still off", Failed(stmon::Outcome::Refused), ""},
+      {"another kind of silence", Failed(stmon::Outcome::Silent), "printer lost"},
+      {"the first answer", Told("0"), "printer first"},
+      {"the same", Told("0"), ""},
+      {"paper runs out", Told("32", "1\r-1", "1\r0"),
+       "status changed, trays changed, conditions came 32"},
+      {"a warning beside the dominant error", Told("32,65", "1\r-1", "1\r0"), "conditions came 65"},
+      {"the printer vanishes", Failed(stmon::Outcome::ConnectTimeout), "printer lost"},
+      {"and returns as it was", Told("32,65", "1\r-1", "1\r0"), "printer back"},
+      {"a tray is taken out", Told("65", "1\r6\r2\r2", "1\r100\r2\r50"),
+       "status changed, trays changed, trays came, conditions went 32"},
+      {"another order of the same codes", Told("65,65", "2\r2\r1\r6", "1\r100\r2\r50"), ""},
+      {"switched offline", Told("65", "1\r6\r2\r2", "1\r100\r2\r50", false),
+       "status changed, state changed"},
+  };
+  stmon::Watch watch;
+  auto now = std::chrono::steady_clock::now();
+  for (const Step& step : steps) {
+    CAPTURE(step.why);
+    CHECK(Summary(stmon::Observe(watch, step.snapshot, now)) == step.events);
+    now += 5s;
+  }
+}
+
+TEST_CASE("polls become rarer while nothing answers") {
+  stmon::Watch watch;
+  CHECK(stmon::NextWait(watch, 5s) == 5s);
+  watch.failures = 2;
+  CHECK(stmon::NextWait(watch, 5s) == 20s);
+  watch.failures = 4000000000u;
+  CHECK(stmon::NextWait(watch, 5s) == 60s);
+  CHECK(stmon::NextWait(watch, 300s) == 300s);
+}
+
+TEST_CASE("metrics tell of a silent printer only since when") {
+  const auto answered = Told("32,777", "1\r6\r2\r2", "1\r100\r2\r50");
+  const std::string text = stmon::MetricsReport(answered, answered.when);
+  CHECK(text.find("stmon_up{printer=\"test\"} 1\n") != std::string::npos);
+  CHECK(text.find("code=\"32\",reason=\"media-empty\",severity=\"error\"} 1\n") !=
+        std::string::npos);
+  CHECK(text.find("code=\"777\",reason=\"other\",severity=\"error\"} 1\n") != std::string::npos);
+  CHECK(text.find("tray=\"4\",name=\"Tray 2\"} 50\n") != std::string::npos);
+
+  auto silent = Failed(stmon::Outcome::Silent);
+  silent.source.name = "a \"quoted\\name\"\n\x1B";
+  silent.when = answered.when + 90s;
+  const std::string quiet = stmon::MetricsReport(silent, answered.when);
+  CHECK(quiet.find("stmon_up{printer=\"a \\\"quoted\\\\name\\\"\\n\xEF\xBF\xBD\"} 0\n") !=
+        std::string::npos);
+  CHECK(quiet.find("_age_seconds{printer=\"a \\\"quoted\\\\name\\\"\\n\xEF\xBF\xBD\"} 90.000\n") !=
+        std::string::npos);
+  CHECK(quiet.find("stmon_condition") == std::string::npos);
+  CHECK(stmon::MetricsReport(silent, {}).find("stmon_last_answer") == std::string::npos);
+}
