@@ -9,48 +9,13 @@
 set -u
 cd "$(dirname "$0")/.."
 . tools/common.sh
+. tools/debian_root.sh
 
 root=${STMDATA_WINE_ROOT:-/var/cache/stmdata/wine-i386}
 packages=wine,wine32,xvfb,xauth,imagemagick,x11-utils,xdotool
 
-available() {
-  [ "$(id -u)" -eq 0 ] || { say "a 32-bit Wine needs root to make and enter its Debian root ($root)"; return 1; }
-  unshare --mount true 2>/dev/null || { say "this machine does not allow the mounts that the Wine root ($root) needs"; return 1; }
-}
-
-# One line of progress: rewritten on a terminal, a line for each stage elsewhere.
-show_progress() {
-  awk -v tty="$([ -t 2 ] && echo 1 || echo 0)" '
-    /^I: Retrieving/ { stage = "fetching" } /^I: (Extracting|Unpacking)/ { stage = "unpacking" }
-    /^I: Configuring/ { stage = "configuring" }
-    /^I:/ {
-      steps++
-      if (tty) printf "\r  Wine root: %s, step %d of about 1030   ", stage, steps > "/dev/stderr"
-      else if (stage != last) { print "  Wine root: " stage > "/dev/stderr"; last = stage }
-    }
-    /^[EW]:/ { print > "/dev/stderr" }
-    END { if (tty) print "" > "/dev/stderr" }'
-}
-
-make_root() {
-  [ -f "$root/.complete" ] && return 0
-  need_packages debootstrap || return 1
-  local codename mirror
-  codename=$(. /etc/os-release && echo "$VERSION_CODENAME")
-  mirror_of() { apt-get indextargets --format '$(REPO_URI) $(CODENAME)' | awk -v c="$codename" '$2 == c { print $1; exit }'; }
-  mirror=$(mirror_of)
-  [ -n "$mirror" ] || { quietly "apt-get update" apt-get update; mirror=$(mirror_of); }
-  [ -n "$mirror" ] || { say "No package mirror for $codename is configured for apt."; return 1; }
-  say "Making the 32-bit Wine root in $root: once, about two minutes, 1.3 GB"
-  rm -rf "$root.new"
-  mkdir -p "$(dirname "$root")"
-  debootstrap --arch=i386 --variant=minbase --include="$packages" "$codename" "$root.new" "$mirror" |
-    show_progress
-  [ "${PIPESTATUS[0]}" -eq 0 ] || { say "debootstrap failed; see $root.new/debootstrap/debootstrap.log"; return 1; }
-  touch "$root.new/.complete"
-  rm -rf "$root"
-  mv "$root.new" "$root"
-}
+available() { may_enter_roots "a 32-bit Wine" "$root"; }
+make_root() { make_debian_root "$root" "32-bit Wine root" "about two minutes, 1.3 GB" 1030 "$packages"; }
 
 # The mounts live in a mount namespace of this call and vanish with it. The prefix lies in the build
 # folder: checkouts do not share a Wine server.
