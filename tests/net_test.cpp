@@ -1,16 +1,13 @@
 #include <algorithm>
 #include <iterator>
 
+#include "describe_flat.h"
 #include "doctest/doctest.h"
 #include "support.h"
 
 namespace {
 
-PrnInfo Poisoned() {
-  PrnInfo info;
-  std::memset(&info, test::kPoison, sizeof info);
-  return info;
-}
+using test::PoisonedPrnInfo;
 
 bool Same(const PrnInfo& a, const PrnInfo& b) {
   return std::memcmp(&a, &b, sizeof a) == 0;
@@ -69,13 +66,13 @@ TEST_CASE("a network tray gets its id, paper and level") {
   };
   for (const Row& row : rows) {
     CAPTURE(row.why);
-    PrnInfo expected = Poisoned();
+    PrnInfo expected = PoisonedPrnInfo();
     Clear(expected, 1);
     expected.trayList[0] = {row.tray, row.paper};
     expected.trayLevelList[0] = {row.tray, row.level};
     expected.trayCount = expected.trayLevelCount = 1;
     expected.currentTray = row.tray;
-    PrnInfo info = Poisoned();
+    PrnInfo info = PoisonedPrnInfo();
     CHECK(Fill<NetTrayEntry>(info, NetModeTrays, {&row.entry}, 1) == 1);
     CHECK(info.trayList[0].trayId == row.tray);
     CHECK(info.trayList[0].paperCode == row.paper);
@@ -95,7 +92,7 @@ TEST_CASE("network trays keep their index and never pass the arrays") {
         std::vector<const NetTrayEntry*> entries(length, &entry);
         if (gap && length > 0) entries[length / 2] = nullptr;
         const size_t stored = length < 16 ? length : 16;
-        PrnInfo expected = Poisoned();
+        PrnInfo expected = PoisonedPrnInfo();
         Clear(expected, stored);
         expected.trayCount = 0;
         for (size_t i = 0; i < stored; ++i) {
@@ -106,7 +103,7 @@ TEST_CASE("network trays keep their index and never pass the arrays") {
           ++expected.trayCount;
         }
         expected.trayLevelCount = expected.trayCount;
-        PrnInfo info = Poisoned();
+        PrnInfo info = PoisonedPrnInfo();
         CHECK(Fill(info, NetModeTrays, entries, current) == 1);
         CHECK(Same(info, expected));
       }
@@ -142,14 +139,14 @@ TEST_CASE("network bins give ids, states and option bits") {
     std::vector<const NetBinEntry*> entries;
     for (const NetBinEntry& entry : row.entries)
       entries.push_back(&entry);
-    PrnInfo expected = Poisoned();
+    PrnInfo expected = PoisonedPrnInfo();
     std::memset(expected.binList, 0, sizeof expected.binList);
     std::copy(row.bins.begin(), row.bins.end(), expected.binList);
     expected.binCount = static_cast<uint32_t>(row.bins.size());
     expected.optionBits1 = row.bits1;
     expected.optionBits2 = row.bits2;
     if (row.bins.size() > 1) expected.currentBin = row.bins[1].binId;
-    PrnInfo info = Poisoned();
+    PrnInfo info = PoisonedPrnInfo();
     CHECK(Fill(info, NetModeBins, entries, 2) == 1);
     CHECK(info.optionBits1 == row.bits1);
     CHECK(info.optionBits2 == row.bits2);
@@ -162,7 +159,7 @@ TEST_CASE("a gap among network bins keeps what the record held there") {
   const NetBinEntry finisher = {"Finisher", 0};
   std::vector<const NetBinEntry*> entries(20, &finisher);
   entries[1] = entries[2] = nullptr;
-  PrnInfo info = Poisoned();
+  PrnInfo info = PoisonedPrnInfo();
   info.binList[1] = {5, 1};
   info.binList[2] = {2, 1};
   CHECK(Fill(info, NetModeBins, entries, 20) == 1);
@@ -171,7 +168,7 @@ TEST_CASE("a gap among network bins keeps what the record held there") {
   CHECK(info.binList[15].binId == 4);
   CHECK(info.optionBits1 == 0);
   CHECK(info.optionBits2 == 0x1);
-  CHECK(info.currentBin == Poisoned().currentBin);
+  CHECK(info.currentBin == PoisonedPrnInfo().currentBin);
 }
 
 TEST_CASE("network options set their flags") {
@@ -190,11 +187,11 @@ TEST_CASE("network options set their flags") {
       {many, 1, 0, 0},
   };
   for (const Row& row : rows) {
-    PrnInfo expected = Poisoned();
+    PrnInfo expected = PoisonedPrnInfo();
     expected.hasDuplex = row.duplex;
     expected.option2Flag = row.disk;
     expected.option3Flag = row.sort;
-    PrnInfo info = Poisoned();
+    PrnInfo info = PoisonedPrnInfo();
     CHECK(Fill(info, NetModeOptions, row.entries, 1) == 1);
     CHECK(Same(info, expected));
   }
@@ -220,24 +217,24 @@ TEST_CASE("network lists without a place or a meaning are refused") {
   for (const Row& row : rows) {
     CAPTURE(row.why);
     StatusRow status;
-    PrnInfo unknown = Poisoned();
+    PrnInfo unknown = PoisonedPrnInfo();
     PatGetPrinterStatus(&unknown, &status);
     REQUIRE(PatGetError() == PatErrorNotFound);
-    PrnInfo info = Poisoned();
+    PrnInfo info = PoisonedPrnInfo();
     CHECK(PatGetInfoFromNet(row.record ? &info : nullptr, row.mode, row.list ? &list : nullptr) ==
           row.result);
     CHECK(PatGetError() == row.error);
-    CHECK(Same(info, Poisoned()));
+    CHECK(Same(info, PoisonedPrnInfo()));
   }
 }
 
 TEST_CASE("a network list without its array is empty") {
   for (const int32_t count : {INT32_MIN, 0, 3}) {
     const NetInfoList list = {count, 1, nullptr, nullptr};
-    PrnInfo expected = Poisoned();
+    PrnInfo expected = PoisonedPrnInfo();
     Clear(expected, 0);
     expected.trayCount = expected.trayLevelCount = 0;
-    PrnInfo info = Poisoned();
+    PrnInfo info = PoisonedPrnInfo();
     CHECK(PatGetInfoFromNet(&info, NetModeTrays, &list) == 1);
     CHECK(Same(info, expected));
     CHECK(PatGetInfoFromNet(&info, NetModeOptions, &list) == 1);

@@ -196,6 +196,27 @@ STM_API uint32_t STM_CALL PatGetTrayName_Ex(const PrnInfoEx* info, uint32_t tray
 /* Kept for callers that ask; no argument is read. Result: 0, PatGetError stays. */
 STM_API uint32_t STM_CALL PatGetTrayRect(uint32_t info, uint32_t tray, uint32_t rect);
 STM_API uint32_t STM_CALL PatGetTrayRect_Ex(uint32_t info, uint32_t tray, uint32_t rect);
+/* ---- Print manager --------------------------------------------------------------------------- */
+
+/* Converts the selected groups of the print manager's record into `info`.
+   info    the caller's, zero-filled before its first use. Lists of selected groups are resized,
+           which keeps nodes and what is not written in them; the status list is rebuilt
+   pm      only read; null and all-ones pointers are absent groups, items, names and texts. `count`
+           of a group is the length of its `items`
+   groups  set of Group... bits; GroupDeviceId means GroupModelInfo here, GroupDuplex nothing
+   Result  1 converted, also where a group was absent and nothing was written for it. 0: nothing
+           written, GetLastError 6: `info` or `pm` is null
+   Paper of unknown size and options of unknown device keep the code that their node had. A text
+   that cannot be allocated becomes null; a list that cannot grow reports the length it has.
+   _0      into the flat record. Result 0 without an error value also when a selected group lacks
+           its source (for languages and fonts also when it has no item, for statuses when an item
+           has no code); all others are converted. Tray, bin and language in use are stored as the
+           print manager numbers them. Counts tell what was stored, at most the array's capacity.
+           Texts are cut to their field, never inside a double-byte character of code page 932 */
+STM_API uint32_t STM_CALL PatSetPMPrnInfoToPrnInfo(PrnInfoEx* info, const PMPrnInfo* pm,
+                                                   uint32_t groups);
+STM_API uint32_t STM_CALL PatSetPMPrnInfoToPrnInfo_0(PrnInfo* info, const PMPrnInfo* pm,
+                                                     uint32_t groups);
 
 #ifdef __cplusplus
 } /* extern "C" */

@@ -1,0 +1,198 @@
+// The print manager's record into the list-based one.
+#include <cstring>
+
+#include "platform/windows_api.h"
+#include "pm/derivation.h"
+#include "pm/name_tables.h"
+#include "records/item_list.h"
+#include "stmdata/stmdata.h"
+
+namespace stm {
+namespace {
+
+// Strings of any length are taken whole. The new block is filled before the old one goes, so that
+// a caller may hand in the record's own string.
+void ReplaceText(char** field, const char* text) {
+  const size_t bytes = std::strlen(text) + 1;
+  auto* block = static_cast<char*>(GlobalAlloc(GPTR, static_cast<uint32_t>(bytes)));
+  if (block) std::memcpy(block, text, bytes);
+  GlobalFree(*field);
+  *field = block;
+}
+
+// Brings a list to the group's length and fills each node from its item. Nodes that are already
+// there keep what the rule does not write. The length comes from the chain itself: a record may
+// claim another, and without memory the chain stays short. Result: whether the group has items and
+// the list nodes.
+template <class Item, class Node, class Fill>
+bool FillList(Node*& list, uint32_t& count, const PMItemGroup* group, Fill fill) {
+  if (!HasItems(group) || group->count == 0) return false;
+  list = ResizeItemList(list, CountItems(list), group->count);
+  if (!list) return false;
+  count = 0;
+  for (Node* node = list; node; node = node->next)
+    fill(*node, ItemOf<Item>(*group, count++));
+  return true;
+}
+
+void ConvertState(PrnInfoEx* info, const PMPrnInfo& pm) {
+  if (!IsPresent(pm.statusInfo) || !IsPresent(pm.statusInfo->statusBits)) return;
+  const PrinterState state = StateOf(pm.statusInfo->statusBits);
+  info->offline = state.offline;
+  info->online = state.online;
+  info->hasError = state.hasError;
+  info->printing = state.printing;
+  info->noResponse = state.noResponse;
+}
+
+void ConvertModel(PrnInfoEx* info, const PMPrnInfo& pm) {
+  if (!IsPresent(pm.modelInfo)) return;
+  const PMModelInfo& model = *pm.modelInfo;
+  if (IsPresent(model.modelName)) {
+    info->modelCode = ModelCode(model.modelName);
+    ReplaceText(&info->modelName, model.modelName);
+  }
+  if (IsPresent(model.versionText)) ReplaceText(&info->versionText1, model.versionText);
+  if (IsPresent(model.number)) info->modelInfoNumber = model.number;
+  ReplaceText(&info->manufacturer, kMaker);
+  GlobalFree(info->description);
+  info->description = nullptr;
+}
+
+void ConvertTrays(PrnInfoEx* info, const PMPrnInfo& pm) {
+  const auto fill = [](TrayNode& node, const PMInputTray& tray) {
+    node.trayId = static_cast<uint16_t>(TrayCode(tray));
+    node.paperCode = static_cast<uint16_t>(PaperCode(tray, node.paperCode));
+    node.paperLevel = static_cast<uint16_t>(PaperLevel(tray));
+  };
+  if (!FillList<PMInputTray>(info->trayList, info->trayCount, pm.inputTrayInfo, fill)) return;
+  // Counted from 1; position 0 - 1 is behind every list.
+  const uint32_t current = pm.inputTrayInfo->current;
+  const TrayNode* node = IsPresent(current) ? ItemAt(info->trayList, current - 1) : nullptr;
+  info->currentTray = node ? node->trayId : 0;
+}
+
+void ConvertEmulations(PrnInfoEx* info, const PMPrnInfo& pm) {
+  const auto fill = [info](EmulationNode& node, const PMEmulation& emulation) {
+    node.emulationCode = static_cast<uint16_t>(EmulationCode(emulation));
+    if (!IsPresent(emulation.versionText)) return;
+    if (node.emulationCode == kEmulationWxdlC) {
+      ReplaceText(&info->versionText2, emulation.versionText);
+    } else if (node.emulationCode == kEmulationOrlexScript2) {
+      ReplaceText(&info->versionText3, emulation.versionText);
+    }
+  };
+  if (!FillList<PMEmulation>(info->emulationList, info->emulationCount, pm.emulationInfo, fill))
+    return;
+  // Counted from 0, unlike the tray in use.
+  const uint32_t current = pm.emulationInfo->current;
+  const EmulationNode* node = ItemAt(info->emulationList, current);
+  info->emulationCode = !IsPresent(current) ? 0 : node ? node->emulationCode : STM_ABSENT;
+}
+
+void ConvertFonts(PrnInfoEx* info, const PMPrnInfo& pm) {
+  const auto fill = [](FontNode& node, const PMFont& font) {
+    node.fontCode = static_cast<uint16_t>(FontCode(font));
+  };
+  FillList<PMFont>(info->fontList, info->fontCount, pm.fontInfo, fill);
+}
+
+void ConvertBins(PrnInfoEx* info, const PMPrnInfo& pm) {
+  const auto fill = [](BinNode& node, const PMOutputBin& bin) {
+    node.binId = static_cast<uint16_t>(BinCode(bin));
+    node.binState = static_cast<uint16_t>(BinState(bin.stateFlags));
+  };
+  if (!FillList<PMOutputBin>(info->binList, info->binCount, pm.outputBinInfo, fill)) return;
+  // A position counted from 0, not a bin id.
+  const uint32_t current = pm.outputBinInfo->current;
+  info->currentBin = IsPresent(current) ? current - 1 : uint32_t{BinUnknown};
+}
+
+// A status list under construction. What cannot be allocated is neither listed nor counted.
+struct StatusChain {
+  StatusNode* head;
+  StatusNode** tail;
+  uint32_t count;
+};
+
+void Append(StatusChain& chain, uint32_t code) {
+  StatusNode* node = NewItem<StatusNode>();
+  if (!node) return;
+  node->code = static_cast<uint16_t>(code);
+  *chain.tail = node;
+  chain.tail = &node->next;
+  ++chain.count;
+}
+
+void AppendOnce(StatusChain& chain, uint32_t code) {
+  if (!FindItem(chain.head, code)) Append(chain, code);
+}
+
+// The state bits tell at most one code, and only when the network tells none.
+void AppendState(StatusChain& chain, const PMStatusInfo& status) {
+  if (IsPresent(status.netStatus)) {
+    Append(chain, PatGetStatusFromNet(status.netStatus));
+  } else if (!IsPresent(status.statusBits)) {
+    return;
+  } else if (status.statusBits & PMStatusEnergySaver) {
+    AppendOnce(chain, kStatusEnergySaver);
+  } else if (status.statusBits & PMStatusWarmingUp) {
+    AppendOnce(chain, kStatusWarmingUp);
+  } else if (status.statusBits == 0) {
+    AppendOnce(chain, kStatusReady);
+  }
+}
+
+// Always rebuilt: a printer that tells nothing is ready.
+void ConvertStatuses(PrnInfoEx* info, const PMPrnInfo& pm) {
+  StatusChain chain{nullptr, &chain.head, 0};
+  FreeItemList(info->statusList);
+  if (HasItems(pm.statusListInfo)) {
+    for (uint32_t i = 0; i < pm.statusListInfo->count; ++i)
+      Append(chain, ItemOf<PMStatusItem>(*pm.statusListInfo, i).code);
+  }
+  if (IsPresent(pm.statusInfo)) AppendState(chain, *pm.statusInfo);
+  if (chain.count == 0) Append(chain, kStatusReady);
+  info->statusList = chain.head;
+  info->statusCount = chain.count;
+}
+
+void ConvertOptions(PrnInfoEx* info, const PMPrnInfo& pm) {
+  const auto fill = [](OptionNode& node, const PMOption& option) {
+    node.optionCode = static_cast<uint16_t>(OptionCode(option, node.optionCode));
+  };
+  FillList<PMOption>(info->optionList, info->optionCount, pm.optionInfo, fill);
+}
+
+struct GroupRow {
+  uint32_t group;
+  void (*convert)(PrnInfoEx* info, const PMPrnInfo& pm);
+};
+
+constexpr GroupRow kGroups[] = {
+    {GroupStatus, ConvertState},          //
+    {GroupModelInfo, ConvertModel},       //
+    {GroupTrays, ConvertTrays},           //
+    {GroupEmulation, ConvertEmulations},  //
+    {GroupFonts, ConvertFonts},           //
+    {GroupBins, ConvertBins},             //
+    {GroupStatusList, ConvertStatuses},   //
+    {GroupOptions, ConvertOptions},       //
+};
+
+}  // namespace
+}  // namespace stm
+
+uint32_t STM_CALL PatSetPMPrnInfoToPrnInfo(PrnInfoEx* info, const PMPrnInfo* pm, uint32_t groups) {
+  if (!info || !pm) {
+    SetLastError(ERROR_INVALID_HANDLE);
+    return 0;
+  }
+  info->recordTag = PrnInfoExTag;
+  info->structSize = PrnInfoExSize;
+  groups = stm::EffectiveGroups(groups);
+  for (const stm::GroupRow& row : stm::kGroups) {
+    if (groups & row.group) row.convert(info, *pm);
+  }
+  return 1;
+}
