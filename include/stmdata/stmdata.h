@@ -218,6 +218,20 @@ STM_API uint32_t STM_CALL PatSetPMPrnInfoToPrnInfo(PrnInfoEx* info, const PMPrnI
 STM_API uint32_t STM_CALL PatSetPMPrnInfoToPrnInfo_0(PrnInfo* info, const PMPrnInfo* pm,
                                                      uint32_t groups);
 
+/* ---- Names and version ----------------------------------------------------------------------- */
+
+/* The description name and the code of a model.
+   key        model name, as in the Device ID; case counts. The empty name has the empty description
+              name and the code 255
+   desName    receives the name, at most 32 bytes with the zero byte
+   modelCode  receives the code
+   Result     1 found; 0 null argument or unknown key, nothing is written */
+STM_API uint32_t STM_CALL bGetDesName(const char* key, char* desName, uint8_t* modelCode);
+
+/* Writes the library's six version words; the record's first field stays the caller's.
+   Result  1, or 0 when `version` is null */
+STM_API uint32_t STM_CALL PatGetDllVersion(PatVersionInfo* version);
+
 #ifdef __cplusplus
 } /* extern "C" */
 #endif
