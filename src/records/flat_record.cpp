@@ -1,6 +1,7 @@
 // From the list-based record to the flat one.
 #include <initializer_list>
 
+#include "records/fixed_text.h"
 #include "records/item_list.h"
 #include "records/record.h"
 #include "records/reply.h"
@@ -9,14 +10,10 @@
 namespace stm {
 namespace {
 
-// A text longer than the field is cut; a missing one leaves the field alone.
-template <uint32_t Size>
-void CopyText(char (&field)[Size], const char* text) {
-  if (!text) return;
-  uint32_t length = 0;
-  for (; length < Size - 1 && text[length] != '\0'; ++length)
-    field[length] = text[length];
-  field[length] = '\0';
+// A missing text leaves the field alone.
+template <uint32_t Width>
+void CopyTextIfHeld(char (&field)[Width], const char* text) {
+  if (text) CopyText(field, text);
 }
 
 // Stores what `entryOf` makes of each node, as far as the array reaches. Result: the number stored.
@@ -34,9 +31,9 @@ uint32_t CopyKeys(const Node* node, uint32_t (&array)[Capacity]) {
 }
 
 void CopyDeviceId(const PrnInfoEx& source, PrnInfo* target) {
-  CopyText(target->modelName, source.modelName);
-  CopyText(target->manufacturer, source.manufacturer);
-  CopyText(target->description, source.description);
+  CopyTextIfHeld(target->modelName, source.modelName);
+  CopyTextIfHeld(target->manufacturer, source.manufacturer);
+  CopyTextIfHeld(target->description, source.description);
   target->modelCode = source.modelCode;
   if (!source.emulationList) return;
   CopyKeys(source.emulationList, target->emulationList);
@@ -65,9 +62,9 @@ void CopyStatus(const PrnInfoEx& source, PrnInfo* target) {
 
 void CopyModelInfo(const PrnInfoEx& source, PrnInfo* target) {
   target->modelInfoNumber = source.modelInfoNumber;
-  CopyText(target->versionText1, source.versionText1);
-  CopyText(target->versionText2, source.versionText2);
-  CopyText(target->versionText3, source.versionText3);
+  CopyTextIfHeld(target->versionText1, source.versionText1);
+  CopyTextIfHeld(target->versionText2, source.versionText2);
+  CopyTextIfHeld(target->versionText3, source.versionText3);
 }
 
 void CopyFonts(const PrnInfoEx& source, PrnInfo* target) {
