@@ -218,6 +218,20 @@ STM_API uint32_t STM_CALL PatSetPMPrnInfoToPrnInfo(PrnInfoEx* info, const PMPrnI
 STM_API uint32_t STM_CALL PatSetPMPrnInfoToPrnInfo_0(PrnInfo* info, const PMPrnInfo* pm,
                                                      uint32_t groups);
 
+/* Compares two records in the selected groups.
+   groups  set of Group... bits; GroupDeviceId and GroupDuplex select nothing. GroupStatusList
+           compares the most urgent statuses, not the lists; GroupStatus takes the model code with
+           the state flags. An STM_ABSENT tray, bin or language in use and an option value 0xFFFF
+           agree with any, and so do a missing description or version text; two missing model names
+           or makers agree, a missing one and a text differ. Lists are compared as far as their
+           counts and chains reach
+   equal   receives 1 when the records agree, else 0. Two printers that do not respond agree, and
+           one that does not differs from one that does, whatever is selected
+   Result  1 compared. 0: `equal` is not written, GetLastError: 6 `first` or `second` is null, 487
+           `equal` is null */
+STM_API uint32_t STM_CALL PatCmpPrnInfoEX(const PrnInfoEx* first, const PrnInfoEx* second,
+                                          uint32_t groups, uint32_t* equal);
+
 /* ---- Names and version ----------------------------------------------------------------------- */
 
 /* The description name and the code of a model.
