@@ -37,7 +37,7 @@ const FlatCase kReplies[] = {
      [](PrnInfo& to) {
        to.statusCount = 0;
        to.online = 1, to.hasError = to.printing = 0, to.offline = 0;
-       to.currentTray = 0, to.currentBin = 255;
+       to.currentTray = to.currentBin = 0;
      }},
     {"model information", "\x1BV\rA\r1.01\rB\r123456\n\x1BM\r64\n",
      [](PrnInfo& to) {

@@ -38,7 +38,7 @@ const ReplyCase kReplies[] = {
     {"the end marker ends a status block too",
      {"\x1BS\r0\r0\r1\r2\x1B \x1BL\r1\r1\n"},
      "status[0] online tray=3 bin=2 bins[1:1]"},
-    {"no field at all", {"\x1BS\r4\r1\r1\n", "\x1BS\n"}, "status(0)[0] online bin=255"},
+    {"no field at all", {"\x1BS\r4\r1\r1\n", "\x1BS\n"}, "status(0)[0] online"},
     {"codes over 63 bytes: the later fields are read from inside them",
      {"\x1BS\r" + std::string(150, '4') + "\r0\r1\r1\n"},
      "bin=255"},

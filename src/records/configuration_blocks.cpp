@@ -9,66 +9,62 @@
 namespace stm {
 namespace {
 
-constexpr uint16_t kVersionLimit = 8;
+constexpr uint32_t kVersionLimit = 8;
 constexpr uint32_t kVersionBytes = 7;  // six characters and the zero byte
 
-// An existing block has room for every version text and is written over.
-void ReadVersion(Input& fields, char*& text) {
-  const auto value = ReadField<kVersionLimit>(fields, kCarriageReturn, kLineFeed);
-  if (!text) text = static_cast<char*>(GlobalAlloc(GPTR, kVersionBytes));
-  if (text) std::strcpy(text, value.text);
+void SkipLabel(Input& fields) {
+  ReadField(fields, kVersionLimit, kCarriageReturn);
 }
 
-void SkipLabel(Input& fields) {
-  ReadField<kVersionLimit>(fields, kCarriageReturn);
+// An existing block has room for every version text and is written over. Result: whether more
+// fields follow.
+bool ReadVersion(Input& fields, char*& text) {
+  const Field value = ReadField(fields, kVersionLimit, kCarriageReturn);
+  if (!text) text = static_cast<char*>(GlobalAlloc(GPTR, kVersionBytes));
+  if (text) {
+    std::memcpy(text, value.text.data(), value.text.size());
+    text[value.text.size()] = '\0';
+  }
+  return value.delimiter == kCarriageReturn || Left(fields) > 0;
 }
 
 }  // namespace
 
 //   1B 'V' CR  S Y S CR 1 . 0 1 CR  N W C CR 2 . 0 0 LF
 //              label    value       label    value       a third pair may follow
-uint16_t ParseVersionBlock(const Input& block, PrnInfoEx* record) {
-  const BlockCopy copy = CopyBlock(block);
-  Input fields = FieldsOf(copy);
+void ParseVersionBlock(const Input& block, PrnInfoEx* record) {
+  Input fields = FieldsOf(block);
   SkipLabel(fields);
   ReadVersion(fields, record->versionText1);
   SkipLabel(fields);
-  ReadVersion(fields, record->versionText2);
-  if (Peek(fields) != '\0') {
-    SkipLabel(fields);
-    ReadVersion(fields, record->versionText3);
-  }
-  return static_cast<uint16_t>(copy.length);
+  if (!ReadVersion(fields, record->versionText2)) return;
+  SkipLabel(fields);
+  ReadVersion(fields, record->versionText3);
 }
 
 //   1B 'M' CR  6 4 LF
-uint16_t ParseNumberBlock(const Input& block, PrnInfoEx* record) {
-  const BlockCopy copy = CopyBlock(block);
-  Input fields = FieldsOf(copy);
-  record->modelInfoNumber = ParseDecimal(ReadField<16>(fields, kLineFeed).text);
-  return static_cast<uint16_t>(copy.length);
+void ParseNumberBlock(const Input& block, PrnInfoEx* record) {
+  Input fields = FieldsOf(block);
+  record->modelInfoNumber = ParseDecimal(ReadField(fields, 16, kLineFeed).text);
 }
 
 //   1B 'E' CR  N D L LF
-uint16_t ParseEmulationBlock(const Input& block, PrnInfoEx* record) {
-  const BlockCopy copy = CopyBlock(block);
-  Input fields = FieldsOf(copy);
-  const auto code = ReadField<5>(fields, kLineFeed);
+void ParseEmulationBlock(const Input& block, PrnInfoEx* record) {
+  Input fields = FieldsOf(block);
+  const Field code = ReadField(fields, 5, kLineFeed);
   record->emulationCode = static_cast<uint32_t>(LookupNameCode(code.text, kEmulationCodeTable));
-  return static_cast<uint16_t>(copy.length);
 }
 
 //   1B 'F' CR  G O T H I C CR K A I S H O LF
 //
 // Fonts that the table does not name are not kept.
-uint16_t ParseFontBlock(const Input& block, PrnInfoEx* record) {
-  const BlockCopy copy = CopyBlock(block);
+void ParseFontBlock(const Input& block, PrnInfoEx* record) {
   record->fontList = FreeItemList(record->fontList);
   record->fontCount = 0;
   FontNode** link = &record->fontList;
-  Input fields = FieldsOf(copy);
+  Input fields = FieldsOf(block);
   while (Peek(fields) != '\0') {
-    const auto name = ReadField<128>(fields, kCarriageReturn, kLineFeed);
+    const Field name = ReadField(fields, 128, kCarriageReturn);
     const int32_t code = LookupNameCode(name.text, kFontNameTable);
     if (code == 0) continue;
     *link = NewItem<FontNode>();
@@ -77,7 +73,6 @@ uint16_t ParseFontBlock(const Input& block, PrnInfoEx* record) {
     link = &(*link)->next;
     ++record->fontCount;
   }
-  return static_cast<uint16_t>(copy.length);
 }
 
 }  // namespace stm

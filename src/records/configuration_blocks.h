@@ -9,10 +9,10 @@
 
 namespace stm {
 
-// Each parses the block at `block` into `record` and returns how many bytes of the reply it took.
-uint16_t ParseVersionBlock(const Input& block, PrnInfoEx* record);
-uint16_t ParseNumberBlock(const Input& block, PrnInfoEx* record);
-uint16_t ParseEmulationBlock(const Input& block, PrnInfoEx* record);
-uint16_t ParseFontBlock(const Input& block, PrnInfoEx* record);
+// Each parses a block, its end left out, into `record`.
+void ParseVersionBlock(const Input& block, PrnInfoEx* record);
+void ParseNumberBlock(const Input& block, PrnInfoEx* record);
+void ParseEmulationBlock(const Input& block, PrnInfoEx* record);
+void ParseFontBlock(const Input& block, PrnInfoEx* record);
 
 }  // namespace stm

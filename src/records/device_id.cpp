@@ -55,13 +55,11 @@ void ReadLanguages(PrnInfoEx* record, Value value) {
   record->emulationCount = 0;
   EmulationNode** link = &record->emulationList;
   while (Left(value) > 0) {
-    char code[8];
-    const uint32_t kept = ScanField2(value, ',', kFieldEnd, sizeof code, code);
-    code[kept - 1] = '\0';
-    Skip(value, kept);
+    Field code = ScanField(value, 8, ',', kFieldEnd);
+    if (code.delimiter == '\0') code.text.remove_suffix(1);
     *link = NewItem<EmulationNode>();
     if (!*link) continue;
-    (*link)->emulationCode = static_cast<uint16_t>(LookupNameCode(code, kEmulationCodeTable));
+    (*link)->emulationCode = static_cast<uint16_t>(LookupNameCode(code.text, kEmulationCodeTable));
     link = &(*link)->next;
     ++record->emulationCount;
   }

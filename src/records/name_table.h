@@ -3,6 +3,7 @@
 #pragma once
 
 #include <cstdint>
+#include <string_view>
 
 namespace stm {
 
@@ -14,5 +15,8 @@ struct NameCode {
 // The code of the first row whose name equals `name` byte for byte, else the closing row's; -1 when
 // `name` or `table` is null.
 int32_t LookupNameCode(const char* name, const NameCode* table);
+
+// The same for a piece of a longer text; a zero byte in it ends the name.
+int32_t LookupNameCode(std::string_view name, const NameCode* table);
 
 }  // namespace stm

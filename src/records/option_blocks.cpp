@@ -62,7 +62,7 @@ uint32_t ReadValue(Input& entries) {
   for (uint32_t bit = 0; Left(entries) > 0; bit += 8) {
     const auto byte = static_cast<uint8_t>(Peek(entries));
     Skip(entries, 1);
-    if (byte == kCarriageReturn || byte == kLineFeed) break;
+    if (byte == kCarriageReturn) break;
     if (bit < 32) value |= uint32_t{byte} << bit;
   }
   return value;
@@ -93,18 +93,15 @@ void AddOption(OptionNode*& cursor, uint32_t& count, uint16_t code, uint16_t val
 //   1B 'A' CR  '1' LF     '0' means absent, anything else present
 //
 // Nodes of code 0 are not counted: a list of such nodes only is replaced.
-uint16_t ParsePresenceBlock(const Input& block, PrnInfoEx* record, uint16_t optionCode) {
-  const BlockCopy copy = CopyBlock(block);
-  const auto consumed = static_cast<uint16_t>(copy.length);
-  if (Peek(FieldsOf(copy)) == '0') return consumed;
-  if (record->optionCount != 0 && FindItem(record->optionList, optionCode)) return consumed;
+void ParsePresenceBlock(const Input& block, PrnInfoEx* record, uint16_t optionCode) {
+  if (Peek(FieldsOf(block)) == '0') return;
+  if (record->optionCount != 0 && FindItem(record->optionList, optionCode)) return;
   OptionNode* added = NewItem<OptionNode>();
-  if (!added) return consumed;
+  if (!added) return;
   added->optionCode = optionCode;
   if (record->optionCount == 0) record->optionList = FreeItemList(record->optionList);
   *TailOf(&record->optionList) = added;
   ++record->optionCount;
-  return consumed;
 }
 
 //   1B 'D' CR  F : 03 CR D : 01 00 00 00 LF
@@ -113,14 +110,13 @@ uint16_t ParsePresenceBlock(const Input& block, PrnInfoEx* record, uint16_t opti
 //              letter
 //
 // Every known letter opens a node; it keeps code 0 when the value selects none of its masks.
-uint16_t ParseOptionBlock(const Input& block, PrnInfoEx* record) {
-  const BlockCopy copy = CopyBlock(block);
+void ParseOptionBlock(const Input& block, PrnInfoEx* record) {
   record->optionList = FreeItemList(record->optionList);
   record->optionCount = 0;
   OptionNode** tail = &record->optionList;
 
-  Input entries = FieldsOf(copy);
-  while (Left(entries) > 0 && Peek(entries) != kLineFeed) {
+  Input entries = FieldsOf(block);
+  while (Left(entries) > 0) {
     const OptionRow* row = FindOptionRow(Peek(entries));
     Skip(entries, 2);
     const uint32_t value = ReadValue(entries);
@@ -143,7 +139,6 @@ uint16_t ParseOptionBlock(const Input& block, PrnInfoEx* record) {
     }
     tail = &cursor->next;
   }
-  return static_cast<uint16_t>(copy.length);
 }
 
 }  // namespace stm

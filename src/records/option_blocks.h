@@ -9,16 +9,16 @@
 
 namespace stm {
 
-// Each parses the block at `block` into `record` and returns how many bytes of the reply it took.
-uint16_t ParsePresenceBlock(const Input& block, PrnInfoEx* record, uint16_t optionCode);
-uint16_t ParseOptionBlock(const Input& block, PrnInfoEx* record);
+// Each parses a block, its end left out, into `record`.
+void ParsePresenceBlock(const Input& block, PrnInfoEx* record, uint16_t optionCode);
+void ParseOptionBlock(const Input& block, PrnInfoEx* record);
 
 // The A block tells of option 4, the C block of the duplex unit.
-inline uint16_t ParseOption4Block(const Input& block, PrnInfoEx* record) {
-  return ParsePresenceBlock(block, record, 4);
+inline void ParseOption4Block(const Input& block, PrnInfoEx* record) {
+  ParsePresenceBlock(block, record, 4);
 }
-inline uint16_t ParseDuplexBlock(const Input& block, PrnInfoEx* record) {
-  return ParsePresenceBlock(block, record, OptionDuplex);
+inline void ParseDuplexBlock(const Input& block, PrnInfoEx* record) {
+  ParsePresenceBlock(block, record, OptionDuplex);
 }
 
 }  // namespace stm

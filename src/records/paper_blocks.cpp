@@ -1,16 +1,18 @@
 #include "records/paper_blocks.h"
 
+#include <algorithm>
+
 #include "records/item_list.h"
 #include "records/reply_tables.h"
 
 namespace stm {
 namespace {
 
-uint16_t PaperCode(const char* value) {
+uint16_t PaperCode(std::string_view value) {
   return static_cast<uint16_t>(LookupNameCode(value, kPaperSizes));
 }
 
-uint16_t Number(const char* value) {
+uint16_t Number(std::string_view value) {
   return static_cast<uint16_t>(ParseDecimal(value));
 }
 
@@ -22,7 +24,7 @@ struct EntryRule {
   const NameCode* ids;
   uint16_t Node::*key;
   uint16_t Node::*field;
-  uint16_t (*valueOf)(const char*);
+  uint16_t (*valueOf)(std::string_view);
 };
 
 constexpr EntryRule<TrayNode> kTrayRule = {
@@ -38,12 +40,9 @@ constexpr EntryRule<BinNode> kBinRule = {
     &BinNode::binId,     &BinNode::binState,   Number,
 };
 
-// An id and a value, both followed by a CR or the LF, make an entry.
-uint32_t CountEntries(const BlockCopy& copy) {
-  uint32_t returns = 0;
-  for (uint32_t i = 0; i < copy.length; ++i)
-    returns += copy.text[i] == kCarriageReturn;
-  return returns / 2;
+// An id and a value, both followed by a CR or the block's end, make an entry.
+uint32_t CountEntries(const Input& block) {
+  return static_cast<uint32_t>(std::count(block.position, block.end, kCarriageReturn)) / 2;
 }
 
 //   1B 'T' CR  1 CR 5 CR  2 CR -1 LF
@@ -53,15 +52,14 @@ uint32_t CountEntries(const BlockCopy& copy) {
 // Values go to the node with the entry's id. The k-th id that no node has yet takes the k-th node
 // from the head; when the nodes are used up, such an entry is dropped.
 template <class Node>
-uint16_t ParseEntries(const Input& block, PrnInfoEx* record, const EntryRule<Node>& rule) {
-  const BlockCopy copy = CopyBlock(block);
-  RebuildItemList(record->*rule.list, record->*rule.count, CountEntries(copy));
+void ParseEntries(const Input& block, PrnInfoEx* record, const EntryRule<Node>& rule) {
+  RebuildItemList(record->*rule.list, record->*rule.count, CountEntries(block));
   Node* cursor = record->*rule.list;
 
-  Input fields = FieldsOf(copy);
+  Input fields = FieldsOf(block);
   while (Peek(fields) != '\0') {
-    const auto id = ReadField<8>(fields, kCarriageReturn);
-    const auto value = ReadField<8>(fields, kCarriageReturn, kLineFeed);
+    const Field id = ReadField(fields, 8, kCarriageReturn);
+    const Field value = ReadField(fields, 8, kCarriageReturn);
     const auto key = static_cast<uint16_t>(LookupNameCode(id.text, rule.ids));
     Node* node = FindItem(record->*rule.list, key);
     if (!node && cursor) {
@@ -71,21 +69,20 @@ uint16_t ParseEntries(const Input& block, PrnInfoEx* record, const EntryRule<Nod
     }
     if (node) node->*rule.field = rule.valueOf(value.text);
   }
-  return static_cast<uint16_t>(copy.length);
 }
 
 }  // namespace
 
-uint16_t ParseTrayBlock(const Input& block, PrnInfoEx* record) {
-  return ParseEntries(block, record, kTrayRule);
+void ParseTrayBlock(const Input& block, PrnInfoEx* record) {
+  ParseEntries(block, record, kTrayRule);
 }
 
-uint16_t ParseLevelBlock(const Input& block, PrnInfoEx* record) {
-  return ParseEntries(block, record, kLevelRule);
+void ParseLevelBlock(const Input& block, PrnInfoEx* record) {
+  ParseEntries(block, record, kLevelRule);
 }
 
-uint16_t ParseBinBlock(const Input& block, PrnInfoEx* record) {
-  return ParseEntries(block, record, kBinRule);
+void ParseBinBlock(const Input& block, PrnInfoEx* record) {
+  ParseEntries(block, record, kBinRule);
 }
 
 }  // namespace stm

@@ -8,9 +8,9 @@
 
 namespace stm {
 
-// Each parses the block at `block` into `record` and returns how many bytes of the reply it took.
-uint16_t ParseTrayBlock(const Input& block, PrnInfoEx* record);
-uint16_t ParseLevelBlock(const Input& block, PrnInfoEx* record);
-uint16_t ParseBinBlock(const Input& block, PrnInfoEx* record);
+// Each parses a block, its end left out, into `record`.
+void ParseTrayBlock(const Input& block, PrnInfoEx* record);
+void ParseLevelBlock(const Input& block, PrnInfoEx* record);
+void ParseBinBlock(const Input& block, PrnInfoEx* record);
 
 }  // namespace stm

@@ -15,44 +15,64 @@ namespace {
 
 std::atomic<uint32_t> lastParseFlags{0};
 
+// How much of the reply a block is. A block that the reply cuts off says nothing reliable: it takes
+// nothing.
+struct BlockExtent {
+  uint32_t text;   // bytes to parse, without the end
+  uint32_t taken;  // bytes to step over
+};
+
+// A block ends with its LF and takes 255 bytes at most.
+BlockExtent LineExtent(const Input& rest) {
+  constexpr uint32_t kMost = 255;
+  const void* found = std::memchr(rest.position, kLineFeed, Left(rest));
+  if (!found) return {0, 0};
+  const auto length = static_cast<uint32_t>(static_cast<const char*>(found) - rest.position);
+  return length < kMost ? BlockExtent{length, length + 1} : BlockExtent{kMost, kMost};
+}
+
+constexpr char kEndLetter = ' ';
+constexpr uint32_t kEndLength = 2;
+
+// A status block ends with its LF or with the reply's end marker and takes 256 bytes at most.
+BlockExtent StatusExtent(const Input& rest) {
+  constexpr uint32_t kMost = 256;
+  for (Input at = rest; Left(at) > 0; Skip(at, 1)) {
+    const bool lineEnd = Peek(at) == kLineFeed;
+    if (!lineEnd && BlockLetter(at) != kEndLetter) continue;
+    const auto length = static_cast<uint32_t>(at.position - rest.position);
+    if (length >= kMost) return {kMost, kMost};
+    return {length, length + (lineEnd ? 1 : kEndLength)};
+  }
+  return {0, 0};
+}
+
 struct BlockRow {
   char letter;
-  uint16_t (*parse)(const Input& block, PrnInfoEx* record);
+  BlockExtent (*extent)(const Input& rest);
+  void (*parse)(const Input& block, PrnInfoEx* record);
   uint32_t groups;
 };
 
 constexpr BlockRow kBlocks[] = {
-    {'S', ParseStatusBlock, GroupStatus | GroupStatusList},  // status
-    {'T', ParseTrayBlock, GroupTrays},                       // paper sizes
-    {'Z', ParseLevelBlock, GroupTrays},                      // paper levels
-    {'L', ParseBinBlock, GroupBins},                         // output bins
-    {'V', ParseVersionBlock, GroupModelInfo},                // version texts
-    {'M', ParseNumberBlock, GroupModelInfo},                 // number
-    {'E', ParseEmulationBlock, GroupEmulation},              // printer language in use
-    {'F', ParseFontBlock, GroupFonts},                       // resident fonts
-    {'A', ParseOption4Block, GroupOptions},                  // option 4
-    {'C', ParseDuplexBlock, GroupDuplex},                    // duplex unit
-    {'D', ParseOptionBlock, GroupOptions},                   // optional units
+    {'S', StatusExtent, ParseStatusBlock, GroupStatus | GroupStatusList},  // status
+    {'T', LineExtent, ParseTrayBlock, GroupTrays},                         // paper sizes
+    {'Z', LineExtent, ParseLevelBlock, GroupTrays},                        // paper levels
+    {'L', LineExtent, ParseBinBlock, GroupBins},                           // output bins
+    {'V', LineExtent, ParseVersionBlock, GroupModelInfo},                  // version texts
+    {'M', LineExtent, ParseNumberBlock, GroupModelInfo},                   // number
+    {'E', LineExtent, ParseEmulationBlock, GroupEmulation},                // language in use
+    {'F', LineExtent, ParseFontBlock, GroupFonts},                         // resident fonts
+    {'A', LineExtent, ParseOption4Block, GroupOptions},                    // option 4
+    {'C', LineExtent, ParseDuplexBlock, GroupDuplex},                      // duplex unit
+    {'D', LineExtent, ParseOptionBlock, GroupOptions},                     // optional units
 };
-
-constexpr char kEndLetter = ' ';
-constexpr uint32_t kEndLength = 2;
 
 const BlockRow* FindBlock(int8_t letter) {
   for (const BlockRow& row : kBlocks) {
     if (row.letter == letter) return &row;
   }
   return nullptr;
-}
-
-// Whether the block's end has arrived: its LF, for a status block also the end marker. A reply that
-// was cut off inside a block says nothing reliable in it.
-bool IsComplete(const Input& block, int8_t letter) {
-  if (letter != 'S') return std::memchr(block.position, kLineFeed, Left(block)) != nullptr;
-  for (Input at = block; Left(at) > 0; Skip(at, 1)) {
-    if (Peek(at) == kLineFeed || BlockLetter(at) == kEndLetter) return true;
-  }
-  return false;
 }
 
 void WalkReply(Input rest, PrnInfoEx* record) {
@@ -63,9 +83,12 @@ void WalkReply(Input rest, PrnInfoEx* record) {
       continue;
     }
     const BlockRow* row = FindBlock(letter);
-    if (!row || !IsComplete(rest, letter)) return;
-    Skip(rest, row->parse(rest, record));
+    if (!row) return;
+    const BlockExtent extent = row->extent(rest);
+    if (extent.taken == 0) return;
+    row->parse({rest.position, rest.position + extent.text}, record);
     lastParseFlags.fetch_or(row->groups, std::memory_order_relaxed);
+    Skip(rest, extent.taken);
   }
 }
 

@@ -2,28 +2,29 @@
 
 namespace stm {
 
-uint32_t ScanField2(const Input& input, char delimiter1, char delimiter2, uint16_t limit,
-                    char* dst) {
-  if (limit == 0) return 0;
-  const uint32_t most = Left(input) < limit - 1u ? Left(input) : limit - 1u;
-  uint32_t kept = 0;
-  while (kept < most) {
-    const char byte = input.position[kept];
-    dst[kept++] = byte;
-    if (byte == delimiter1 || byte == delimiter2) break;
-  }
-  dst[kept] = '\0';
-  return kept;
+Field ScanField(Input& input, uint32_t limit, char delimiter1, char delimiter2) {
+  const char* start = input.position;
+  const uint32_t most = Left(input) < limit - 1 ? Left(input) : limit - 1;
+  uint32_t length = 0;
+  while (length < most && start[length] != delimiter1 && start[length] != delimiter2)
+    ++length;
+  const bool ended = length < most;
+  Skip(input, length + ended);
+  return {{start, length}, ended ? start[length] : '\0'};
 }
 
-uint32_t ScanField(const Input& input, char delimiter, uint16_t limit, char* dst) {
-  return ScanField2(input, delimiter, delimiter, limit, dst);
+Field ReadField(Input& input, uint32_t limit, char delimiter1, char delimiter2) {
+  Field field = ScanField(input, limit, delimiter1, delimiter2);
+  if (field.text.size() == limit - 1) field.text.remove_suffix(1);
+  return field;
 }
 
-uint32_t ParseDecimal(const char* text) {
+uint32_t ParseDecimal(std::string_view text) {
   uint32_t value = 0;
-  for (; *text >= '0' && *text <= '9'; ++text)
-    value = value * 10 + static_cast<uint32_t>(*text - '0');
+  for (char digit : text) {
+    if (digit < '0' || digit > '9') break;
+    value = value * 10 + static_cast<uint32_t>(digit - '0');
+  }
   return value;
 }
 

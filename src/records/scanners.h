@@ -3,6 +3,7 @@
 #pragma once
 
 #include <cstdint>
+#include <string_view>
 
 namespace stm {
 
@@ -28,68 +29,39 @@ constexpr char kEscape = 0x1B;
 constexpr char kCarriageReturn = 0x0D;
 constexpr char kLineFeed = 0x0A;
 
-// Keeps the bytes of `input` up to and including the first delimiter, at most `limit` - 1 of them,
-// in `dst` (`limit` bytes), followed by a zero byte. Zero bytes do not stop the scan; `input` is
-// not moved. Result: the number of bytes kept, by which the caller advances. A limit of 0 keeps and
-// writes nothing.
-uint32_t ScanField(const Input& input, char delimiter, uint16_t limit, char* dst);
-uint32_t ScanField2(const Input& input, char delimiter1, char delimiter2, uint16_t limit,
-                    char* dst);
-
-// A field read up to its delimiter, without it.
-template <uint16_t Limit>
+// A piece of the input up to its delimiter, in place and without a zero byte of its own. Zero bytes
+// do not end it; who compares it as a text stops at the first one.
 struct Field {
-  char text[Limit];  // terminated
-  char delimiter;    // the byte that ended the field, 0 when none did
+  std::string_view text;  // without the delimiter
+  char delimiter;         // 0 when none ended the field
 };
 
-// Reads a field and steps over it and its delimiter. A field that fills the limit without a
-// delimiter loses its last byte all the same: that is the delimiter's place, and text has at most
-// `Limit` - 2 characters.
-template <uint16_t Limit>
-Field<Limit> ReadField(Input& input, char delimiter1, char delimiter2) {
-  Field<Limit> field;
-  field.delimiter = '\0';
-  const uint32_t kept = ScanField2(input, delimiter1, delimiter2, Limit, field.text);
-  Skip(input, kept);
-  if (kept == 0) return field;
-  char& last = field.text[kept - 1];
-  if (last == delimiter1 || last == delimiter2) {
-    field.delimiter = last;
-    last = '\0';
-  } else if (kept == Limit - 1) {
-    last = '\0';
-  }
-  return field;
+// Reads a field and steps over it and its delimiter. A field takes at most `limit` - 1 bytes of the
+// input, the delimiter among them; what follows is left for the next field.
+Field ScanField(Input& input, uint32_t limit, char delimiter1, char delimiter2);
+
+// The same, and a field without a delimiter within these bytes loses the last of them: it is the
+// delimiter's place, so that a text has `limit` - 2 characters at most.
+Field ReadField(Input& input, uint32_t limit, char delimiter1, char delimiter2);
+
+inline Field ScanField(Input& input, uint32_t limit, char delimiter) {
+  return ScanField(input, limit, delimiter, delimiter);
 }
 
-template <uint16_t Limit>
-Field<Limit> ReadField(Input& input, char delimiter) {
-  return ReadField<Limit>(input, delimiter, delimiter);
+inline Field ReadField(Input& input, uint32_t limit, char delimiter) {
+  return ReadField(input, limit, delimiter, delimiter);
 }
 
 // The value of the decimal digits at the start of `text`, modulo 2^32; 0 without a leading digit.
-uint32_t ParseDecimal(const char* text);
+uint32_t ParseDecimal(std::string_view text);
 
 // The letter of the block that begins at the position: -1 when no ESC stands there, 0 when the
 // input ends right after the ESC.
 int8_t BlockLetter(const Input& input);
 
-// A block's first 255 bytes including its LF, with a zero byte after them.
-struct BlockCopy {
-  char text[256];
-  uint32_t length;  // without the zero byte: what the block takes of the reply
-};
-
-inline BlockCopy CopyBlock(const Input& block) {
-  BlockCopy copy;
-  copy.length = ScanField(block, kLineFeed, sizeof copy.text, copy.text);
-  return copy;
-}
-
-// What follows ESC, the letter and the CR.
-inline Input FieldsOf(const BlockCopy& copy) {
-  Input fields{copy.text, copy.text + copy.length};
+// What follows a block's ESC, letter and CR.
+inline Input FieldsOf(const Input& block) {
+  Input fields = block;
   Skip(fields, 3);
   return fields;
 }

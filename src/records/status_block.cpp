@@ -1,5 +1,7 @@
 #include "records/status_block.h"
 
+#include <algorithm>
+
 #include "records/item_list.h"
 #include "records/reply_tables.h"
 
@@ -73,43 +75,12 @@ constexpr StatusClassRow kStatusClasses[] = {
     {0xFFFFFFFFu, 2},  // closing row: every other code
 };
 
-constexpr uint32_t kCopyLimit = 256;
-constexpr uint16_t kFieldLimit = 64;
+constexpr uint32_t kFieldLimit = 64;
 
-// The block as the fields are read: its LF, or the ESC of the end marker that closes it, stands at
-// the end as an ESC.
-struct StatusCopy {
-  char text[kCopyLimit + 1];
-  uint32_t length;    // bytes kept
-  uint16_t consumed;  // bytes taken of the reply
-};
-
-StatusCopy CopyStatusBlock(const Input& block) {
-  StatusCopy copy;
-  Input rest = block;
-  copy.length = 0;
-  copy.consumed = kCopyLimit;
-  while (copy.length < kCopyLimit && Left(rest) > 0) {
-    const bool lineEnd = Peek(rest) == kLineFeed;
-    const bool endMarker = BlockLetter(rest) == ' ';
-    copy.text[copy.length] = lineEnd ? kEscape : Peek(rest);
-    if (lineEnd || endMarker) {
-      copy.consumed = static_cast<uint16_t>(copy.length + (lineEnd ? 1 : 2));
-      ++copy.length;
-      break;
-    }
-    ++copy.length;
-    Skip(rest, 1);
-  }
-  copy.text[copy.length] = '\0';
-  return copy;
-}
-
-uint32_t CountCodes(const char* field, uint32_t length) {
-  uint32_t count = 0;
-  for (uint32_t i = 0; i < length; ++i)
-    count += field[i] == ',' || field[i] == kCarriageReturn;
-  return count;
+// Every "," and the CR behind the codes count one code each.
+uint32_t CountCodes(const Field& codes) {
+  const auto commas = std::count(codes.text.begin(), codes.text.end(), ',');
+  return static_cast<uint32_t>(commas) + (codes.delimiter == kCarriageReturn);
 }
 
 }  // namespace
@@ -125,38 +96,29 @@ uint32_t StatusClass(uint32_t code) {
 //              codes     |     |     output bin in use, may be missing
 //                        |     tray in use
 //                        online flag, 0 means online
-uint16_t ParseStatusBlock(const Input& block, PrnInfoEx* record) {
-  const StatusCopy copy = CopyStatusBlock(block);
-  Input fields{copy.text, copy.text + copy.length};
-  Skip(fields, 3);
-
-  char codes[kFieldLimit];
-  const uint32_t codesLength = ScanField(fields, kCarriageReturn, kFieldLimit, codes);
-  Skip(fields, codesLength);
-  RebuildItemList(record->statusList, record->statusCount, CountCodes(codes, codesLength));
+void ParseStatusBlock(const Input& block, PrnInfoEx* record) {
+  Input fields = FieldsOf(block);
+  const Field codes = ScanField(fields, kFieldLimit, kCarriageReturn);
+  RebuildItemList(record->statusList, record->statusCount, CountCodes(codes));
   record->hasError = 0;
-
-  Input codeFields{codes, codes + codesLength};
+  Input codeFields{codes.text.data(), codes.text.data() + codes.text.size()};
   for (StatusNode* node = record->statusList; node; node = node->next) {
-    char code[8];
-    Skip(codeFields, ScanField2(codeFields, ',', kCarriageReturn, sizeof code, code));
-    node->code = static_cast<uint16_t>(ParseDecimal(code));
+    node->code = static_cast<uint16_t>(ParseDecimal(ScanField(codeFields, 8, ',').text));
     if (StatusClass(node->code) == StatusClassError) record->hasError = 1;
   }
 
-  const char onlineFlag[2] = {Peek(fields), '\0'};
-  record->online = ParseDecimal(onlineFlag) == 0;
+  const char onlineFlag = Peek(fields);
+  record->online = ParseDecimal({&onlineFlag, 1}) == 0;
   Skip(fields, 2);
 
-  const auto tray = ReadField<kFieldLimit>(fields, kCarriageReturn, kEscape);
+  const Field tray = ReadField(fields, kFieldLimit, kCarriageReturn, kEscape);
   record->currentTray = static_cast<uint16_t>(LookupNameCode(tray.text, kTrayLetters));
-  if (tray.delimiter == kEscape) {
-    record->currentBin = 0;
-  } else {
-    const auto bin = ReadField<kFieldLimit>(fields, kEscape);
+  record->currentBin = 0;
+  const bool trayCut = tray.delimiter == '\0' && Left(fields) > 0;
+  if (tray.delimiter == kCarriageReturn || trayCut) {
+    const Field bin = ReadField(fields, kFieldLimit, kEscape);
     record->currentBin = static_cast<uint16_t>(LookupNameCode(bin.text, kBinNumbers));
   }
-  return copy.consumed;
 }
 
 }  // namespace stm

@@ -13,8 +13,7 @@ enum : uint32_t { StatusClassReady = 0, StatusClassWarning = 1, StatusClassError
 // The class of a status code; codes that no row lists are errors.
 uint32_t StatusClass(uint32_t code);
 
-// Parses the block at `block` into `record`. Result: how many bytes of the reply it took, with an
-// end marker that closes the block.
-uint16_t ParseStatusBlock(const Input& block, PrnInfoEx* record);
+// Parses the block, its end left out, into `record`.
+void ParseStatusBlock(const Input& block, PrnInfoEx* record);
 
 }  // namespace stm

@@ -105,4 +105,6 @@ TEST_CASE("a name that no row holds gets the closing row's code") {
   };
   for (const auto& row : rows)
     CHECK(stm::LookupNameCode(row.name, row.table) == row.code);
+  CHECK(stm::LookupNameCode(std::string_view("ABC", 2), table) == 2);
+  CHECK(stm::LookupNameCode(std::string_view("A\0B", 3), table) == 1);
 }

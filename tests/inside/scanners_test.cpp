@@ -7,62 +7,52 @@ using namespace std::string_literals;
 
 namespace {
 
-struct ScanCase {
+struct FieldCase {
   const char* why;
   std::string input;
   char delimiter1;
   char delimiter2;
-  uint16_t limit;
-  std::string kept;
+  uint32_t limit;
+  std::string scanned;
+  std::string read;
+  char delimiter;
+  uint32_t left;
 };
 
-const ScanCase kScans[] = {
-    {"the delimiter is kept", "12\r99", '\r', '\r', 8, "12\r"},
-    {"cut below the limit", "abcdefghi", '\r', '\r', 8, "abcdefg"},
-    {"the delimiter is the last byte that fits", "abcdef\rh", '\r', '\r', 8, "abcdef\r"},
-    {"the delimiter comes one byte too late", "abcdefg\r", '\r', '\r', 8, "abcdefg"},
-    {"the first of two delimiters", "1,2\r", ',', '\r', 8, "1,"},
-    {"the second of two delimiters", "1\r2,", ',', '\r', 8, "1\r"},
-    {"a zero byte is a byte", "1\0\x32\r"s, '\r', '\r', 8, "1\0\x32\r"s},
-    {"the input ends first", "12", '\r', '\r', 8, "12"},
-    {"nothing to read", "", '\r', '\r', 8, ""},
-    {"room for the zero byte only", "12\r", '\r', '\r', 1, ""},
+const FieldCase kFields[] = {
+    {"up to the delimiter", "12\r99", '\r', '\r', 8, "12", "12", '\r', 2},
+    {"cut below the limit", "abcdefghi", '\r', '\r', 8, "abcdefg", "abcdef", '\0', 2},
+    {"the delimiter is the last byte that fits", "abcdef\rh", '\r', '\r', 8, "abcdef", "abcdef",
+     '\r', 1},
+    {"the delimiter comes one byte too late", "abcdefg\r", '\r', '\r', 8, "abcdefg", "abcdef", '\0',
+     1},
+    {"the first of two delimiters", "1,2\r", ',', '\r', 8, "1", "1", ',', 2},
+    {"the second of two delimiters", "1\r2,", ',', '\r', 8, "1", "1", '\r', 2},
+    {"a zero byte is a byte", "1\0\x32\r"s, '\r', '\r', 8, "1\0\x32"s, "1\0\x32"s, '\r', 0},
+    {"the input ends first", "12", '\r', '\r', 8, "12", "12", '\0', 0},
+    {"an empty field", "\r5", '\r', '\r', 8, "", "", '\r', 1},
+    {"nothing to read", "", '\r', '\r', 8, "", "", '\0', 0},
+    {"room for a delimiter only", "12\r", '\r', '\r', 2, "1", "", '\0', 2},
 };
 
 }  // namespace
 
-TEST_CASE("a scan keeps a field, its delimiter and a zero byte, and nothing past the limit") {
-  for (const ScanCase& row : kScans) {
+TEST_CASE("a field ends at its delimiter, its limit or the input's end") {
+  for (const FieldCase& row : kFields) {
     CAPTURE(row.why);
-    test::GuardedBytes input(row.input);
-    test::GuardedBytes field(std::string(row.limit, static_cast<char>(test::kPoison)));
-    const stm::Input from{input.data(), input.data() + input.size()};
-    const uint32_t count =
-        stm::ScanField2(from, row.delimiter1, row.delimiter2, row.limit, field.data());
-    CHECK(count == row.kept.size());
-    CHECK(std::string(field.data(), count) == row.kept);
-    CHECK(field.data()[count] == '\0');
-    CHECK(field.neighboursUntouched());
+    test::GuardedBytes bytes(row.input);
+    const stm::Input from{bytes.data(), bytes.data() + bytes.size()};
+    stm::Input scanning = from;
+    stm::Input reading = from;
+    const stm::Field scanned = stm::ScanField(scanning, row.limit, row.delimiter1, row.delimiter2);
+    const stm::Field read = stm::ReadField(reading, row.limit, row.delimiter1, row.delimiter2);
+    CHECK(scanned.text == row.scanned);
+    CHECK(read.text == row.read);
+    CHECK(scanned.delimiter == row.delimiter);
+    CHECK(read.delimiter == row.delimiter);
+    CHECK(stm::Left(scanning) == row.left);
+    CHECK(reading.position == scanning.position);
   }
-  test::GuardedBytes nowhere("");
-  const char digits[] = "12";
-  CHECK(stm::ScanField({digits, digits + 2}, '\r', 0, nowhere.data()) == 0);
-}
-
-TEST_CASE("a field that fills its limit loses the delimiter's place and no more of the input") {
-  const char text[] = "1234567\r5\n";
-  stm::Input input{text, text + sizeof text - 1};
-  const auto cut = stm::ReadField<8>(input, '\r');
-  CHECK(std::string(cut.text) == "123456");
-  CHECK(cut.delimiter == '\0');
-  const auto empty = stm::ReadField<8>(input, '\r');
-  CHECK(std::string(empty.text) == "");
-  CHECK(empty.delimiter == '\r');
-  const auto last = stm::ReadField<8>(input, '\r', '\n');
-  CHECK(std::string(last.text) == "5");
-  CHECK(last.delimiter == '\n');
-  CHECK(stm::Left(input) == 0);
-  CHECK(stm::ReadField<8>(input, '\r').text[0] == '\0');
 }
 
 TEST_CASE("a decimal number ends at the first byte that is no digit") {

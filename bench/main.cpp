@@ -1,0 +1,5 @@
+#include "bench.h"
+
+int main() {
+  bench::BenchRecords();
+}
