@@ -1,8 +1,6 @@
 // The maker's product line: model names and their model codes.
 #pragma once
 
-#include <string_view>
-
 #include "records/name_table.h"
 #include "stmdata/records.h"
 
@@ -62,7 +60,7 @@ inline constexpr NameCode kModelNameTable[] = {
 static_assert(sizeof kModelNameTable / sizeof *kModelNameTable == 42 + 1);
 static_assert([] {
   for (const NameCode& row : kModelNameTable) {
-    if (row.name && std::string_view(row.name).size() > 31) return false;
+    if (row.name.length > 31) return false;
   }
   return true;
 }());

@@ -1,18 +1,8 @@
 #include "records/name_table.h"
 
+#include <cstring>
+
 namespace stm {
-namespace {
-
-bool IsName(const char* rowName, std::string_view name) {
-  for (char byte : name) {
-    if (*rowName != byte) return false;
-    if (byte == '\0') return true;
-    ++rowName;
-  }
-  return *rowName == '\0';
-}
-
-}  // namespace
 
 int32_t LookupNameCode(const char* name, const NameCode* table) {
   if (!name || !table) return -1;
@@ -20,8 +10,15 @@ int32_t LookupNameCode(const char* name, const NameCode* table) {
 }
 
 int32_t LookupNameCode(std::string_view name, const NameCode* table) {
-  while (table->name && !IsName(table->name, name))
-    ++table;
+  const char* text = name.data();
+  uint32_t length = 0;
+  while (length < name.size() && text[length] != '\0')
+    ++length;
+  const char last = length ? text[length - 1] : '\0';
+  for (; table->name.text; ++table) {
+    const TableName& row = table->name;
+    if (row.last == last && row.length == length && std::memcmp(row.text, text, length) == 0) break;
+  }
   return table->code;
 }
 

@@ -7,8 +7,20 @@
 
 namespace stm {
 
+// A name with its length and last byte, by which a look-up passes most rows at a glance.
+struct TableName {
+  constexpr TableName(const char* literal)
+      : text(literal),
+        length(literal ? static_cast<uint16_t>(std::char_traits<char>::length(literal)) : 0),
+        last(length ? literal[length - 1] : '\0') {}
+  constexpr operator const char*() const { return text; }
+  const char* text;
+  uint16_t length;
+  char last;
+};
+
 struct NameCode {
-  const char* name;
+  TableName name;
   int32_t code;
 };
 

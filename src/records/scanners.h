@@ -38,11 +38,24 @@ struct Field {
 
 // Reads a field and steps over it and its delimiter. A field takes at most `limit` - 1 bytes of the
 // input, the delimiter among them; what follows is left for the next field.
-Field ScanField(Input& input, uint32_t limit, char delimiter1, char delimiter2);
+inline Field ScanField(Input& input, uint32_t limit, char delimiter1, char delimiter2) {
+  const char* start = input.position;
+  const char* stop = start + (Left(input) < limit - 1 ? Left(input) : limit - 1);
+  const char* at = start;
+  while (at < stop && *at != delimiter1 && *at != delimiter2)
+    ++at;
+  const bool ended = at < stop;
+  input.position = at + ended;
+  return {{start, static_cast<size_t>(at - start)}, ended ? *at : '\0'};
+}
 
 // The same, and a field without a delimiter within these bytes loses the last of them: it is the
 // delimiter's place, so that a text has `limit` - 2 characters at most.
-Field ReadField(Input& input, uint32_t limit, char delimiter1, char delimiter2);
+inline Field ReadField(Input& input, uint32_t limit, char delimiter1, char delimiter2) {
+  Field field = ScanField(input, limit, delimiter1, delimiter2);
+  if (field.text.size() == limit - 1) field.text.remove_suffix(1);
+  return field;
+}
 
 inline Field ScanField(Input& input, uint32_t limit, char delimiter) {
   return ScanField(input, limit, delimiter, delimiter);
@@ -57,7 +70,10 @@ uint32_t ParseDecimal(std::string_view text);
 
 // The letter of the block that begins at the position: -1 when no ESC stands there, 0 when the
 // input ends right after the ESC.
-int8_t BlockLetter(const Input& input);
+inline int8_t BlockLetter(const Input& input) {
+  if (Peek(input) != kEscape) return -1;
+  return Left(input) > 1 ? static_cast<int8_t>(input.position[1]) : 0;
+}
 
 // What follows a block's ESC, letter and CR.
 inline Input FieldsOf(const Input& block) {
