@@ -50,3 +50,61 @@ TEST_CASE("the version words leave the record's first field alone") {
   CHECK(version.versionWord6 == 0x000A001E);
   CHECK(PatGetDllVersion(nullptr) == 0);
 }
+
+TEST_CASE("a device has a name in the language that was set") {
+  struct Row {
+    const char* language;
+    uint32_t device;
+    std::string name;
+  };
+  const Row rows[] = {
+      {"EN", 164, "Duplex Unit"},
+      {"EN", 163, "Option Tray"},
+      {"JP", 164, "\x97\xBC\x96\xCA\xD5\xC6\xAF\xC4"},
+  };
+  for (const Row& row : rows) {
+    CAPTURE(row.language);
+    CAPTURE(row.device);
+    char language[] = {row.language[0], row.language[1], '\0'};
+    PatSetLocale(language);
+    const auto needed = static_cast<uint32_t>(row.name.size() + 1);
+    for (const uint32_t capacity : {0u, 1u, needed - 1, needed, needed + 1, 0xFFFFFFFFu}) {
+      CAPTURE(capacity);
+      const std::string untouched(capacity < 64 ? capacity : 32, static_cast<char>(test::kPoison));
+      test::GuardedBytes name(untouched);
+      uint32_t size = capacity;
+      CHECK(PatGetDeviceName(row.device, name.data(), &size) == (capacity >= needed));
+      CHECK(size == needed);
+      const std::string expected = capacity < needed ? "" : row.name + '\0';
+      CHECK(std::string(name.data(), untouched.size()) ==
+            expected + untouched.substr(expected.size()));
+    }
+  }
+}
+
+TEST_CASE("every language's device names fit 32 bytes") {
+  for (const char* const language :
+       {"EN", "DE", "FR", "IT", "ES", "NL", "SV", "DA", "NO", "CS", "HU", "PT", "PL", "FI", "JP"}) {
+    CAPTURE(language);
+    char name[] = {language[0], language[1], '\0'};
+    PatSetLocale(name);
+    for (const uint32_t device : {163u, 164u}) {
+      test::GuardedBytes text(std::string(32, static_cast<char>(test::kPoison)));
+      uint32_t size = 32;
+      CHECK(PatGetDeviceName(device, text.data(), &size) == 1);
+      CHECK(size > 1);
+      CHECK(size == std::strlen(text.data()) + 1);
+    }
+  }
+}
+
+TEST_CASE("a device without a name or a place for it is refused") {
+  char name[32] = "x";
+  uint32_t size = 32;
+  for (const uint32_t device : {0u, 1u, 162u, 165u, 927u, 0xFFFFFFFFu})
+    CHECK(PatGetDeviceName(device, name, &size) == 0);
+  CHECK(PatGetDeviceName(164, nullptr, &size) == 0);
+  CHECK(PatGetDeviceName(164, name, nullptr) == 0);
+  CHECK(name[0] == 'x');
+  CHECK(size == 32);
+}

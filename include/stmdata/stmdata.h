@@ -234,6 +234,14 @@ STM_API uint32_t STM_CALL PatCmpPrnInfoEX(const PrnInfoEx* first, const PrnInfoE
 
 /* ---- Names and version ----------------------------------------------------------------------- */
 
+/* The display name of an installed device, in the language of PatSetLocale and its code page.
+   deviceCode  as the print manager reports it: 163 option tray, 164 duplex unit
+   name        receives the name with its zero byte when `*size` suffices; 32 bytes always do
+   size        in: bytes in `name`; out: bytes needed, also when they were too few
+   Result      1 written; 0 null argument, unknown device, text not loadable (nothing is written) or
+               `*size` too small (only `*size` is written) */
+STM_API uint32_t STM_CALL PatGetDeviceName(uint32_t deviceCode, char* name, uint32_t* size);
+
 /* The description name and the code of a model.
    key        model name, as in the Device ID; case counts. The empty name has the empty description
               name and the code 255
