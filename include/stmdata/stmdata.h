@@ -53,6 +53,16 @@ STM_API HRSRC STM_CALL PatFindResource(const char* name);
    Result  the handle of the data for LockResource, which the library keeps; or null */
 STM_API HGLOBAL STM_CALL PatLoadResource(HRSRC resource);
 
+/* Loads a bitmap of the library: a picture layer of 320 x 200 pixels or a paper picture of 12 x 12.
+   name    a bitmap's name, in any case
+   Result  a new bitmap that the caller releases with DeleteObject, or null */
+STM_API HBITMAP STM_CALL PatLoadBitmap(const char* name);
+
+/* Loads an icon of the library, 32 x 32 pixels.
+   name    an icon group's name, in any case
+   Result  a shared icon that the caller does not release, or null */
+STM_API HICON STM_CALL PatLoadIcon(const char* name);
+
 /* ---- Query and reply ------------------------------------------------------------------------- */
 
 /* Builds the readback query to be sent to the printer.

@@ -1,0 +1,27 @@
+// Bitmap objects, and the device contexts that hold them.
+#pragma once
+
+#include "platform/linux/dib.h"
+#include "platform/linux/handles.h"
+
+namespace stm {
+
+struct Bitmap : Object {
+  static constexpr Kind kKind = Kind::Bitmap;
+  Dib dib;
+  bool selected;  // a device context holds it; it is not released meanwhile
+};
+
+// The bitmap with this handle, or null. A new memory context holds the stock bitmap of one black
+// pixel, which nobody can release.
+Bitmap* FindBitmap(const void* handle);
+HGDIOBJ StockBitmap();
+
+// The bytes of a resource, null and 0 when the module has none of that name.
+struct Bytes {
+  const uint8_t* data;
+  uint32_t size;
+};
+Bytes ResourceBytes(HINSTANCE module, const char* name, const char* type);
+
+}  // namespace stm
