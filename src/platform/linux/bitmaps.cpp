@@ -5,7 +5,8 @@
 namespace {
 
 constexpr uintptr_t kStockHandle = 1;
-stm::Bitmap stockBitmap{{stm::Kind::Bitmap, kStockHandle}, {.width = 1, .height = 1}, false};
+constexpr stm::Dib kOneBlackPixel = {1, 1, false, 1, stm::DibPlain, nullptr, 0, nullptr, nullptr};
+stm::Bitmap stockBitmap{{stm::Kind::Bitmap, kStockHandle}, kOneBlackPixel, false};
 
 }  // namespace
 
