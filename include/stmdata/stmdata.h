@@ -264,6 +264,50 @@ STM_API uint32_t STM_CALL bGetDesName(const char* key, char* desName, uint8_t* m
    Result  1, or 0 when `version` is null */
 STM_API uint32_t STM_CALL PatGetDllVersion(PatVersionInfo* version);
 
+/* ---- Picture ---------------------------------------------------------------------------------
+   A part list names the layers of the printer picture, in drawing order: part codes 1 to 67, each
+   the index of a part in PatGetPrnParts, then zeros. */
+
+/* Composes the picture that shows a record's statuses.
+   partCodes       receives the part list
+   extraPartCodes  is cleared and carries nothing
+   size            bytes that each list can take, at least 16; of more than 64, 64 are used and
+                   cleared. Codes that do not fit are dropped
+   Result  64 composed, whatever the size; 0 failed and both lists untouched; PatGetError:
+           1 null record, 5 `size` below 16 or a null list
+   _Ex     draws covers at the back and the duplex unit in a view from behind */
+STM_API uint32_t STM_CALL PatGetPrnBitmapEx(const PrnInfo* info, uint8_t* partCodes,
+                                            uint8_t* extraPartCodes, int32_t size);
+STM_API uint32_t STM_CALL PatGetPrnBitmapEx_Ex(const PrnInfoEx* info, uint8_t* partCodes,
+                                               uint8_t* extraPartCodes, int32_t size);
+
+/* The same into the two lists of `bitmap`, whose first field stays as it is.
+   Result  1 composed, 0 failed and `bitmap` untouched; PatGetError: 1 null record, 5 null `bitmap`
+   _Ex     as above */
+STM_API uint32_t STM_CALL PatGetPrnBitmap(const PrnInfo* info, PrnBitmap* bitmap);
+STM_API uint32_t STM_CALL PatGetPrnBitmap_Ex(const PrnInfoEx* info, PrnBitmap* bitmap);
+
+/* Draws the part list of the latest successful composition in the process, of either record kind
+   and by any thread (of a list of more than 16 codes the first 16), layer by layer into a control
+   of a dialog. Nothing is drawn before the first composition. Empty slots and codes above 67 are
+   skipped; a layer that cannot be loaded or a control that is not there costs nothing but itself.
+   Bitmaps are not scaled: the control's edges clip them.
+   dialog     the dialog's window; on Linux one from HostCreateDialog
+   controlId  identifier of the picture control in it
+   flags      0x1: each layer's second pass uses its ropSet instead of its ropClear;
+              0x100: the first pass is left out. Without it the first layer is copied, which lays
+              the ground, and the others are drawn with their ropSet. The printer's picture is
+              drawn with 0x1
+   reserved1, reserved2, reserved3  not read
+   Result     always 1. PatGetError becomes 2 when any layer was drawn
+   _Ex        the same */
+STM_API uint32_t STM_CALL PatDrawPrinterBitmap(HWND dialog, uint32_t reserved1, int32_t controlId,
+                                               uint32_t flags, uint32_t reserved2,
+                                               uint32_t reserved3);
+STM_API uint32_t STM_CALL PatDrawPrinterBitmap_Ex(HWND dialog, uint32_t reserved1,
+                                                  int32_t controlId, uint32_t flags,
+                                                  uint32_t reserved2, uint32_t reserved3);
+
 #ifdef __cplusplus
 } /* extern "C" */
 #endif

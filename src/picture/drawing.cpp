@@ -1,0 +1,78 @@
+// Draws the picture into a control of a dialog, layer by layer.
+#include "picture/composition.h"
+#include "platform/windows_api.h"
+#include "resources/resource_access.h"
+#include "status/parts_table.h"
+#include "stmdata/stmdata.h"
+
+namespace stm {
+namespace {
+
+enum : uint32_t {
+  DrawWithRopSet = 0x1,    // the second pass uses ropSet instead of ropClear
+  DrawSecondPass = 0x100,  // the first pass is left out
+};
+
+struct Control {
+  HWND dialog;
+  int32_t id;
+};
+
+// The bitmap at its own size to the origin of `target`.
+void BlitBitmap(HDC target, HBITMAP bitmap, uint32_t rop) {
+  const HDC source = CreateCompatibleDC(target);
+  if (!source) return;
+  const HGDIOBJ previous = SelectObject(source, bitmap);
+  BITMAP size;
+  if (GetObjectA(bitmap, sizeof size, &size))
+    BitBlt(target, 0, 0, size.bmWidth, size.bmHeight, source, 0, 0, rop);
+  SelectObject(source, previous);
+  DeleteDC(source);
+}
+
+// Everything that a blit needs is had and given back within it, so that a layer that cannot be
+// drawn costs no other layer.
+void BlitLayer(const Control& control, const char* bitmapName, uint32_t rop) {
+  if (rop == 0) return;
+  const HWND window = GetDlgItem(control.dialog, control.id);
+  if (!window) return;
+  const HDC target = GetDC(window);
+  if (!target) return;
+  if (const HBITMAP bitmap = LoadModuleBitmap(bitmapName)) {
+    BlitBitmap(target, bitmap, rop);
+    DeleteObject(bitmap);
+  }
+  ReleaseDC(window, target);
+}
+
+// The parts are asked for without a record; the answer is complete all the same, but it leaves
+// PatGetError at PatErrorNullRecord.
+void DrawPicture(const Control& control, uint32_t flags) {
+  bool first = true;
+  for (const uint8_t code : LastPartList()) {
+    if (code == 0 || code >= kPartCount) continue;
+    PrnPart part;
+    if (!(flags & DrawSecondPass)) {
+      PatGetPrnParts(nullptr, code, &part);
+      BlitLayer(control, part.bitmapName, first ? SRCCOPY : part.ropSet);
+      first = false;
+    }
+    PatGetPrnParts(nullptr, code, &part);
+    BlitLayer(control, part.bitmapName, flags & DrawWithRopSet ? part.ropSet : part.ropClear);
+  }
+}
+
+}  // namespace
+}  // namespace stm
+
+uint32_t STM_CALL PatDrawPrinterBitmap(HWND dialog, uint32_t, int32_t controlId, uint32_t flags,
+                                       uint32_t, uint32_t) {
+  stm::DrawPicture({dialog, controlId}, flags);
+  return 1;
+}
+
+uint32_t STM_CALL PatDrawPrinterBitmap_Ex(HWND dialog, uint32_t, int32_t controlId, uint32_t flags,
+                                          uint32_t, uint32_t) {
+  stm::DrawPicture({dialog, controlId}, flags);
+  return 1;
+}
