@@ -19,8 +19,10 @@ endif()
 
 # ---- Programs ---------------------------------------------------------------------------------
 
+add_custom_target(installed DEPENDS stmdata)  # what the tree below needs, without tests and benchmarks
 foreach(program IN ITEMS stmon stmonw)
   if(TARGET ${program})
+    add_dependencies(installed ${program})
     install(TARGETS ${program} RUNTIME DESTINATION ${CMAKE_INSTALL_BINDIR})
     # In a tree that may lie anywhere the programs find the library by its place beside them.
     file(RELATIVE_PATH to_library /${CMAKE_INSTALL_BINDIR} /${CMAKE_INSTALL_LIBDIR})
