@@ -6,8 +6,21 @@ set -eu
 cd "$(dirname "$0")/.."
 version=$(sed -nE 's/^project\(.* VERSION ([0-9.]+).*/\1/p' CMakeLists.txt)
 
-# files COLUMN: the rows that have a mark in this column.
+# files COLUMN: the rows that have a mark in this column. `NAME/*` stands for the files of the source
+# folder NAME.
 files() {
+  rows "$1" | while IFS= read -r row; do
+    case $row in
+      */\*)
+        source=$(basename "${row%/*}")
+        [ ! -d "$source" ] || find "$source" -type f -printf "${row%/*}/%P\n"
+        ;;
+      *) printf '%s\n' "$row" ;;
+    esac
+  done
+}
+
+rows() {
   sed -n '/^| file /,/^$/p' docs/packaging.md |
     awk -F ' *[|] *' -v column="$1" '$2 ~ /^`.*`$/ && $column == "x" { gsub("`", "", $2); print $2 }' |
     sed "s/VERSION/$version/"
