@@ -12,7 +12,10 @@ struct StateCase {
 const StateCase kStates[] = {
     {"ready", {.statuses = {0}}, "ICO_ONLINE", "ICO_ONLINE"},
     {"energy saver, offline", {.statuses = {18}, .online = false}, "ICO_OFFLINE", "ICO_OFFLINE"},
-    {"the mild codes end at 23", {.statuses = {25}, .online = false}, "ICO_ERR_WASTONER", "ICO_ERR_WASTONER"},
+    {"the mild codes end at 23",
+     {.statuses = {25}, .online = false},
+     "ICO_ERR_WASTONER",
+     "ICO_ERR_WASTONER"},
     {"cover open, offline", {.statuses = {36}, .online = false}, "ICO_ERR_COVER", "ICO_ERR_COVER"},
     {"self check", {.statuses = {19}}, "ICO_WARMUP", "ICO_WARMUP"},
     {"no icon of its own", {.statuses = {31}}, "BMP_ERR_CAUTION", "BMP_ERR_CAUTION"},
