@@ -151,6 +151,43 @@ STM_API uint32_t STM_CALL PatGetInfoFromNet(PrnInfo* info, uint32_t mode, const 
 /* The status code for a status value of the network layer: the same value. */
 STM_API uint32_t STM_CALL PatGetStatusFromNet(uint32_t status);
 
+/* ---- Messages --------------------------------------------------------------------------------
+   Texts for the user. The plain questions answer in the thread's language and the system's code
+   page, the _Ex questions in the language of PatSetLocale and its code page (932 Japanese, 1250
+   Czech, Hungarian and Polish, 1252 the others).
+   buffer  receives at most `size` bytes; emptied first, always terminated, cut between characters.
+           Nothing is written to a null buffer or for a size of 0 or less
+   Result  1 written. 0: PatGetError 2 `info` is null, 3 the text is not to be had or has no room
+           at all. A text that the language lacks is 3 for the plain question and "" with result 1
+           for the _Ex one. */
+
+/* The status line, such as "No Paper", of the dominant status. An offline printer in a mild state
+   says that it is offline.
+   _Ex     says so whenever the printer is offline without an error, whatever is listed */
+STM_API uint32_t STM_CALL PatGetSimpleString(const PrnInfo* info, char* buffer, int32_t size);
+STM_API uint32_t STM_CALL PatGetSimpleString_Ex(const PrnInfoEx* info, char* buffer, int32_t size);
+
+/* What to do about it. A ready printer with a missing or empty tray (the bypass tray excepted) is
+   told to have one, even offline. Toner states end with a line of the colours concerned, in code
+   page 932 and as often as they are listed.
+   info    with statusCount 1, statusList[0] becomes the code that was chosen
+   _Ex     does not write to the record; offline comes before the trays, the bypass tray counts, a
+           duplex unit in the way is told of (result 1 even when that text is not to be had), and
+           each colour is named once, in the language, on the text's last line */
+STM_API uint32_t STM_CALL PatGetDetailString(PrnInfo* info, char* buffer, uint32_t size);
+STM_API uint32_t STM_CALL PatGetDetailString_Ex(const PrnInfoEx* info, char* buffer, int32_t size);
+
+/* How to recover: no language has a text for it, so that the call ends with PatGetError 3.
+   _Ex     ends with 1 and "" */
+STM_API uint32_t STM_CALL PatGetRecoveryString(const PrnInfo* info, char* buffer, int32_t size);
+STM_API uint32_t STM_CALL PatGetRecoveryString_Ex(const PrnInfoEx* info, char* buffer,
+                                                  int32_t size);
+
+/* There is no help context; the numbers are not read and `context` becomes "" unless it is null.
+   Result  0; PatGetError: 1 */
+STM_API uint32_t STM_CALL PatGetHelpContext(uint32_t first, uint32_t second, char* context);
+STM_API uint32_t STM_CALL PatGetHelpContext_Ex(uint32_t first, uint32_t second, char* context);
+
 /* ---- Icons and parts ------------------------------------------------------------------------- */
 
 /* Writes the name of the icon that shows the record's state; unless the name begins with BMP_,

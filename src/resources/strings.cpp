@@ -42,18 +42,21 @@ int ConvertWhatFits(UINT codePage, const StringEntry& entry, char* buffer, int c
   return 0;
 }
 
-// The system may have cut a double-byte character in two; the half is dropped.
-int32_t DropHalfCharacter(const char* text, int32_t length) {
-  int32_t at = 0;
-  while (at < length) {
-    const int32_t width = IsDBCSLeadByteEx(CP_ACP, static_cast<uint8_t>(text[at])) ? 2 : 1;
-    if (at + width > length) break;
+}  // namespace
+
+uint32_t ChosenCodePage() {
+  return CodePageOf(SelectedLanguage());
+}
+
+size_t CountWholeCharacters(uint32_t codePage, const char* text, size_t most) {
+  size_t at = 0;
+  while (at < most) {
+    const size_t width = IsDBCSLeadByteEx(codePage, static_cast<uint8_t>(text[at])) ? 2 : 1;
+    if (at + width > most) break;
     at += width;
   }
   return at;
 }
-
-}  // namespace
 
 // A size of 1 has no room for a character; the system's call would mean something else by it.
 int32_t LoadModuleString(uint32_t id, char* buffer, int32_t size) {
@@ -61,7 +64,10 @@ int32_t LoadModuleString(uint32_t id, char* buffer, int32_t size) {
   buffer[0] = '\0';
   if (size == 1) return 0;
   int32_t length = LoadStringA(ModuleHandle(), id, buffer, size);
-  if (length == size - 1) length = DropHalfCharacter(buffer, length);
+  // The system may have cut a double-byte character in two.
+  if (length == size - 1)
+    length =
+        static_cast<int32_t>(CountWholeCharacters(CP_ACP, buffer, static_cast<size_t>(length)));
   buffer[length] = '\0';
   return length;
 }

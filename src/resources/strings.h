@@ -2,6 +2,7 @@
 // buffer), cut between characters and terminate.
 #pragma once
 
+#include <cstddef>
 #include <cstdint>
 
 namespace stm {
@@ -13,5 +14,11 @@ int32_t LoadModuleString(uint32_t id, char* buffer, int32_t size);
 // In the language of PatSetLocale and its code page. Result: 1, also for an empty text; 0 and
 // `buffer` untouched when the language lacks the text's block.
 uint32_t LoadLocalizedString(uint32_t id, char* buffer, int32_t size);
+
+// The code page of the texts in the chosen language; 0 when the system does not know.
+uint32_t ChosenCodePage();
+
+// How many bytes of the whole characters at `text` stand within `most` bytes.
+size_t CountWholeCharacters(uint32_t codePage, const char* text, size_t most);
 
 }  // namespace stm

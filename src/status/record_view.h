@@ -85,4 +85,30 @@ inline bool TakeTray(TrayView* view, Tray* tray) {
   return true;
 }
 
+// The paper levels of a record.
+struct LevelView {
+  const TrayLevel* levels;  // of a flat record, else null
+  const TrayNode* nodes;    // of a list-based record, else null
+  uint32_t count;
+};
+
+inline LevelView ViewLevels(const PrnInfo& info) {
+  return {info.trayLevelList, nullptr, CountWithin(info.trayLevelList, info.trayLevelCount)};
+}
+inline LevelView ViewLevels(const PrnInfoEx& info) {
+  return {nullptr, info.trayList, info.trayCount};
+}
+
+inline bool TakeLevel(LevelView* view, TrayLevel* tray) {
+  if (view->count == 0 || (!view->levels && !view->nodes)) return false;
+  --view->count;
+  if (view->levels) {
+    *tray = *view->levels++;
+  } else {
+    *tray = {view->nodes->trayId, view->nodes->paperLevel};
+    view->nodes = view->nodes->next;
+  }
+  return true;
+}
+
 }  // namespace stm

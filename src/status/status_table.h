@@ -80,6 +80,8 @@ inline constexpr StatusRow kOfflineStatusTable[] = {
     {88, 401, 1, 601},  // closing row: every code
 };
 
+inline constexpr const StatusRow& kOfflineRow = kOfflineStatusTable[1];
+
 // The row of `code`, or the closing row when no row has it.
 const StatusRow& FindStatusRow(uint32_t code);
 

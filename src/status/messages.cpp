@@ -1,0 +1,349 @@
+// What a record says in words. The twins share tables and bodies; how each picks its status, tests
+// for offline and fetches texts stands in the two builders of a statement.
+#include <cstring>
+
+#include "records/item_list.h"
+#include "resources/strings.h"
+#include "status/dominant_status.h"
+#include "status/last_error.h"
+#include "status/message_tables.h"
+#include "status/record_view.h"
+#include "status/status_table.h"
+#include "status/trays.h"
+#include "stmdata/stmdata.h"
+
+namespace stm {
+namespace {
+
+// A caller's buffer.
+struct Target {
+  char* buffer;
+  int32_t size;
+};
+
+Target EmptiedTarget(char* buffer, int32_t size) {
+  if (buffer && size > 0) buffer[0] = '\0';
+  return {buffer, size};
+}
+
+// Result: 0 when the text could not be loaded.
+using Loader = uint32_t (*)(uint32_t id, const Target& target);
+
+uint32_t LoadInThreadLanguage(uint32_t id, const Target& target) {
+  return static_cast<uint32_t>(LoadModuleString(id, target.buffer, target.size));
+}
+
+uint32_t LoadInChosenLanguage(uint32_t id, const Target& target) {
+  return LoadLocalizedString(id, target.buffer, target.size);
+}
+
+uint32_t Tell(Loader load, uint32_t id, const Target& target) {
+  return load(id, target) ? 1 : FailWith(PatErrorText);
+}
+
+// The last row answers for every code that no row before it has.
+template <size_t Rows>
+uint32_t MessageOf(const MessageRow (&table)[Rows], uint32_t code) {
+  const MessageRow* row = table;
+  while (row < table + Rows - 1 && row->code != code)
+    ++row;
+  return row->messageId;
+}
+
+// ---- The status to talk about
+// --------------------------------------------------------------------
+
+struct Statement {
+  uint32_t code;  // codes[0], or 0
+  bool offline;   // says that the printer is offline, whatever the code
+  Loader load;
+  uint32_t codes[kMostDominant];
+  uint32_t count;
+};
+
+bool IsMildWhilePrinting(const PrnInfo& info) {
+  return info.printing && info.statusCode <= kLastMildCode;
+}
+
+// The flat record's one code where it stands for itself.
+uint32_t OwnCode(const PrnInfo& info) {
+  if (info.noResponse) return StatusNoResponse;
+  return IsMildWhilePrinting(info) ? uint32_t{StatusPrinting} : info.statusCode;
+}
+
+bool SaysOffline(const PrnInfo& info, uint32_t code) {
+  return !info.online && code <= kLastMildCode;
+}
+
+bool SaysOffline(const PrnInfoEx& info) {
+  return !info.online && !info.hasError;
+}
+
+Statement StateShort(const PrnInfo& info) {
+  const uint32_t code = HasSeveralStatuses(info) ? GetDominantStatus(&info) : OwnCode(info);
+  return {code, SaysOffline(info, code), LoadInThreadLanguage, {code}, 1};
+}
+
+Statement StateShort(const PrnInfoEx& info) {
+  const uint32_t code = GetDominantStatus_Ex(&info);
+  return {code, SaysOffline(info), LoadInChosenLanguage, {code}, 1};
+}
+
+Statement StateAll(const PrnInfo& info) {
+  if (!HasSeveralStatuses(info)) return StateShort(info);
+  Statement statement{0, false, LoadInThreadLanguage, {}, 0};
+  statement.count = GetDominantStatusList(&info, statement.codes, kMostDominant);
+  if (statement.count > 0) statement.code = statement.codes[0];
+  statement.offline = SaysOffline(info, statement.code);
+  return statement;
+}
+
+Statement StateAll(const PrnInfoEx& info) {
+  Statement statement{0, SaysOffline(info), LoadInChosenLanguage, {}, 0};
+  statement.count = GetDominantStatusList_Ex(&info, statement.codes, kMostDominant);
+  if (statement.count > 0) statement.code = statement.codes[0];
+  return statement;
+}
+
+const StatusRow& RowOf(const Statement& statement) {
+  return statement.offline ? kOfflineRow : FindStatusRow(statement.code);
+}
+
+uint32_t TellShort(const Statement& statement, const Target& target) {
+  return Tell(statement.load, RowOf(statement).simpleId, target);
+}
+
+// ---- Toner colours
+// -------------------------------------------------------------------------------
+
+constexpr size_t kSuffixSize = 52;
+constexpr int32_t kColourNameSize = 50;
+
+struct Suffix {
+  char text[kSuffixSize];
+  size_t length;
+  uint32_t codePage;
+};
+
+// A name for which there is no room is left out whole.
+void AddToSuffix(Suffix& suffix, const char* name) {
+  const size_t length = std::strlen(name);
+  if (length >= kSuffixSize - suffix.length) return;
+  std::memcpy(suffix.text + suffix.length, name, length + 1);
+  suffix.length += length;
+}
+
+bool IsTonerCode(uint32_t code) {
+  return code >= kFirstTonerCode && code <= kLastTonerCode;
+}
+
+uint32_t ColourOf(uint32_t tonerCode) {
+  return (tonerCode - kFirstTonerCode) % kColours;
+}
+
+// A line of its own with a name for each code, in the order of the codes.
+Suffix FlatSuffix(const Statement& statement) {
+  Suffix suffix{{}, 0, kFlatNamesCodePage};
+  if (!IsTonerCode(statement.code)) return suffix;
+  AddToSuffix(suffix, "\n");
+  for (uint32_t i = 0; i < statement.count; ++i) {
+    if (IsTonerCode(statement.codes[i]))
+      AddToSuffix(suffix, kColourNames[ColourOf(statement.codes[i])].flatName);
+  }
+  return suffix;
+}
+
+// Each colour once, in the order of the colours; the text before it ends its line itself.
+Suffix ListSuffix(const Statement& statement) {
+  Suffix suffix{{}, 0, ChosenCodePage()};
+  bool flagged[kColours] = {};
+  for (uint32_t i = 0; i < statement.count; ++i) {
+    if (IsTonerCode(statement.codes[i])) flagged[ColourOf(statement.codes[i])] = true;
+  }
+  for (uint32_t colour = 0; colour < kColours; ++colour) {
+    char name[kColourNameSize];
+    if (flagged[colour] &&
+        LoadLocalizedString(kColourNames[colour].messageId, name, kColourNameSize))
+      AddToSuffix(suffix, name);
+  }
+  return suffix;
+}
+
+// Appends what fits, cut between characters.
+void AppendSuffix(const Suffix& suffix, const Target& target) {
+  const size_t length = std::strlen(target.buffer);
+  const size_t room = static_cast<size_t>(target.size) - length - 1;
+  const size_t kept = suffix.length <= room
+                          ? suffix.length
+                          : CountWholeCharacters(suffix.codePage, suffix.text, room);
+  std::memcpy(target.buffer + length, suffix.text, kept);
+  target.buffer[length + kept] = '\0';
+}
+
+// A single free byte may be where half a character had no room: asked again with room enough, the
+// text tells. Every text of the library is shorter than this.
+bool WasCut(const Statement& statement, uint32_t id, const Target& target) {
+  constexpr int32_t kRoomForAnyText = 512;
+  const size_t length = std::strlen(target.buffer);
+  if (length + 2 != static_cast<size_t>(target.size)) return false;
+  char whole[kRoomForAnyText];
+  return statement.load(id, {whole, kRoomForAnyText}) && std::strlen(whole) > length;
+}
+
+// A code without a row has a text, but no suffix.
+uint32_t TellDetail(const Statement& statement, const Suffix& suffix, const Target& target) {
+  const StatusRow& row = RowOf(statement);
+  if (!Tell(statement.load, row.detailId, target)) return 0;
+  const bool wantsSuffix = suffix.length > 0 && !statement.offline && row.code != kStatusTableEnd;
+  if (wantsSuffix && !WasCut(statement, row.detailId, target)) AppendSuffix(suffix, target);
+  return 1;
+}
+
+// ---- Trays
+// ---------------------------------------------------------------------------------------
+
+bool HasMissingTray(TrayView trays) {
+  for (Tray tray; TakeTray(&trays, &tray);) {
+    if (tray.paperCode == PaperTrayMissing) return true;
+  }
+  return false;
+}
+
+// Whether a tray says that it holds no paper, or one in place has run down to nothing.
+template <class Record>
+bool HasEmptyTray(const Record& info, uint32_t (*isPresent)(const Record*, uint32_t),
+                  uint32_t exemptTray) {
+  TrayView trays = ViewTrays(info);
+  for (Tray tray; TakeTray(&trays, &tray);) {
+    if (tray.id != exemptTray && tray.paperCode == PaperNone) return true;
+  }
+  LevelView levels = ViewLevels(info);
+  for (TrayLevel tray; TakeLevel(&levels, &tray);) {
+    if (tray.trayId != exemptTray && tray.paperLevel <= 1 && isPresent(&info, tray.trayId))
+      return true;
+  }
+  return false;
+}
+
+constexpr uint32_t kNoTray = 0xFFFFFFFF;
+
+uint32_t CheckMissingTray(const PrnInfo& info, const Target& target) {
+  return HasMissingTray(ViewTrays(info)) ? LoadInThreadLanguage(kTrayMessage, target) : 0;
+}
+
+uint32_t CheckMissingTray_Ex(const PrnInfoEx& info, const Target& target) {
+  return HasMissingTray(ViewTrays(info)) ? LoadInChosenLanguage(kTrayMessage, target) : 0;
+}
+
+uint32_t CheckEmptyTray(const PrnInfo& info, const Target& target) {
+  return HasEmptyTray(info, IsTrayPresent, TrayBypass) ? LoadInThreadLanguage(kTrayMessage, target)
+                                                       : 0;
+}
+
+uint32_t CheckEmptyTray_Ex(const PrnInfoEx& info, const Target& target) {
+  return HasEmptyTray(info, IsTrayPresent_Ex, kNoTray) ? LoadInChosenLanguage(kTrayMessage, target)
+                                                       : 0;
+}
+
+// ---- Details and recovery
+// ------------------------------------------------------------------------
+
+uint32_t DuplexMessage(const PrnInfoEx& info, uint32_t code) {
+  return FindItem(info.optionList, OptionDuplex) ? MessageOf(kDuplexMessages, code) : 0;
+}
+
+uint32_t DetailOf(PrnInfo* info, const Target& target) {
+  const bool saysReady = info->statusCode == 0;
+  if (saysReady && (CheckMissingTray(*info, target) || CheckEmptyTray(*info, target))) return 1;
+  const Statement statement = StateAll(*info);
+  if (info->statusCount == 1) info->statusList[0] = statement.code;
+  return TellDetail(statement, FlatSuffix(statement), target);
+}
+
+uint32_t DetailOf(const PrnInfoEx& info, const Target& target) {
+  const Statement statement = StateAll(info);
+  if (!statement.offline) {
+    const bool saysReady = statement.code == 0;
+    if (saysReady && (CheckMissingTray_Ex(info, target) || CheckEmptyTray_Ex(info, target)))
+      return 1;
+    if (const uint32_t message = DuplexMessage(info, statement.code)) {
+      statement.load(message, target);
+      return 1;
+    }
+  }
+  return TellDetail(statement, ListSuffix(statement), target);
+}
+
+uint32_t RecoveryCode(const PrnInfo& info) {
+  const bool takesFirst =
+      HasSeveralStatuses(info) && !info.noResponse && !IsMildWhilePrinting(info);
+  return FoldServiceCall(takesFirst ? info.statusList[0] : OwnCode(info));
+}
+
+uint32_t RecoveryCode(const PrnInfoEx& info) {
+  if (info.noResponse) return StatusNoResponse;
+  StatusView view = ViewStatus(info);
+  uint32_t first = StatusPrinting;
+  TakeCode(&view, &first);
+  return info.printing && first <= kLastMildCode ? uint32_t{StatusPrinting} : first;
+}
+
+uint32_t TellRecovery(uint32_t code, Loader load, const Target& target) {
+  return Tell(load, MessageOf(kRecoveryTable, code), target);
+}
+
+uint32_t TellHelpContext(char* context) {
+  if (context) context[0] = '\0';
+  return FailWith(PatErrorNotFound);
+}
+
+int32_t SignedSize(uint32_t size) {
+  return static_cast<int32_t>(std::min<uint32_t>(size, INT32_MAX));
+}
+
+}  // namespace
+}  // namespace stm
+
+uint32_t STM_CALL PatGetSimpleString(const PrnInfo* info, char* buffer, int32_t size) {
+  const stm::Target target = stm::EmptiedTarget(buffer, size);
+  if (!info) return stm::FailWith(PatErrorNullRecord);
+  return stm::TellShort(stm::StateShort(*info), target);
+}
+
+uint32_t STM_CALL PatGetSimpleString_Ex(const PrnInfoEx* info, char* buffer, int32_t size) {
+  const stm::Target target = stm::EmptiedTarget(buffer, size);
+  if (!info) return stm::FailWith(PatErrorNullRecord);
+  return stm::TellShort(stm::StateShort(*info), target);
+}
+
+uint32_t STM_CALL PatGetDetailString(PrnInfo* info, char* buffer, uint32_t size) {
+  const stm::Target target = stm::EmptiedTarget(buffer, stm::SignedSize(size));
+  if (!info) return stm::FailWith(PatErrorNullRecord);
+  return stm::DetailOf(info, target);
+}
+
+uint32_t STM_CALL PatGetDetailString_Ex(const PrnInfoEx* info, char* buffer, int32_t size) {
+  const stm::Target target = stm::EmptiedTarget(buffer, size);
+  if (!info) return stm::FailWith(PatErrorNullRecord);
+  return stm::DetailOf(*info, target);
+}
+
+uint32_t STM_CALL PatGetRecoveryString(const PrnInfo* info, char* buffer, int32_t size) {
+  const stm::Target target = stm::EmptiedTarget(buffer, size);
+  if (!info) return stm::FailWith(PatErrorNullRecord);
+  return stm::TellRecovery(stm::RecoveryCode(*info), stm::LoadInThreadLanguage, target);
+}
+
+uint32_t STM_CALL PatGetRecoveryString_Ex(const PrnInfoEx* info, char* buffer, int32_t size) {
+  const stm::Target target = stm::EmptiedTarget(buffer, size);
+  if (!info) return stm::FailWith(PatErrorNullRecord);
+  return stm::TellRecovery(stm::RecoveryCode(*info), stm::LoadInChosenLanguage, target);
+}
+
+uint32_t STM_CALL PatGetHelpContext(uint32_t, uint32_t, char* context) {
+  return stm::TellHelpContext(context);
+}
+
+uint32_t STM_CALL PatGetHelpContext_Ex(uint32_t, uint32_t, char* context) {
+  return stm::TellHelpContext(context);
+}
