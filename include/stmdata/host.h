@@ -69,6 +69,12 @@ STM_HOST_API HGLOBAL STM_CALL GlobalFree(HGLOBAL block);
    What PatLoadBitmap and PatLoadIcon hand out. Handles of windows, bitmaps and icons are numbers,
    not addresses: a null, foreign or released one is refused. A process can have 4096 at a time. */
 
+/* Raster operations of PrnPart: what becomes of a destination pixel. */
+#define SRCCOPY 0x00CC0020u    /* source */
+#define SRCPAINT 0x00EE0086u   /* source or destination */
+#define SRCAND 0x008800C6u     /* source and destination */
+#define MERGEPAINT 0x00BB0226u /* not source, or destination */
+
 /* Releases a bitmap. Result: 1, or 0 when there is no such bitmap or a device context holds it. */
 STM_HOST_API BOOL STM_CALL DeleteObject(HGDIOBJ object);
 

@@ -9,11 +9,6 @@
 
 using HDC = struct HDC__*;
 
-inline constexpr DWORD SRCCOPY = 0x00CC0020;     // source
-inline constexpr DWORD SRCPAINT = 0x00EE0086;    // source or destination
-inline constexpr DWORD SRCAND = 0x008800C6;      // source and destination
-inline constexpr DWORD MERGEPAINT = 0x00BB0226;  // not source, or destination
-
 extern "C" {
 // Orders two strings; 0 when they are equal. Case counts. Only equality is promised to mean the
 // same as on Windows: order is by byte here, by the user's language there.
