@@ -49,6 +49,10 @@ build() {
   shift
   for target in "$@"; do targets+=(--target "$target"); done
   [ -f "build/$preset/build.ninja" ] || say "Building $preset (the first time takes a minute or two)"
-  quietly "configuring $preset" cmake --preset "$preset" &&
+  quietly "configuring $preset" cmake --preset "$preset" || return 1
+  if [ -t 2 ]; then
+    cmake --build --preset "$preset" "${targets[@]}" >&2  # on a terminal ninja keeps to one line
+  else
     quietly "building $preset" cmake --build --preset "$preset" "${targets[@]}"
+  fi
 }
