@@ -3,7 +3,7 @@
 
 The headers are written to be read as they are. Their shape carries what doxygen wants to be told by
 marks: the first comment is the file's; a comment with dashes opens a section; a comment directly above
-declarations is theirs, also the twins'; in it `name  text` lines are arguments, `Result` the result; a
+declarations is theirs, also the twins'; in it `name  text` lines are arguments, `Result` the result, `_Ex` the twin; a
 comment behind a field or constant is that one's. What has no comment and is no function is left out."""
 import re
 import sys
@@ -40,7 +40,7 @@ def document(text, declaration="", run=""):
             names = label.split(", ")
             if label == "Result":
                 out += ["", f"@return {rest}"]
-            elif label != "_Ex" and all(has(declaration, name) or not has(run, name) for name in names):
+            elif not label.startswith("_") and all(has(declaration, name) or not has(run, name) for name in names):
                 out += ["", f"@param {','.join(names)} {rest}"]
             else:
                 out += ["", f"@par {label}", rest]
