@@ -62,5 +62,6 @@ inline void Header(const char* area) {
 
 // ---- One function for each area, in a file of its own ----------------------------------------
 void BenchRecords();
+void BenchPrintManager();
 
 }  // namespace bench

@@ -2,4 +2,5 @@
 
 int main() {
   bench::BenchRecords();
+  bench::BenchPrintManager();
 }
