@@ -1,6 +1,7 @@
 #include "print_manager.h"
 
 #include <algorithm>
+#include <iterator>
 
 #include "describe.h"
 #include "describe_flat.h"
@@ -448,4 +449,86 @@ TEST_CASE("conversions without a record are refused") {
   refused(PatSetPMPrnInfoToPrnInfo_0(&flat, nullptr, kAllGroups));
   CHECK(test::Describe(record) == "");
   CHECK(std::memcmp(&flat, &before, sizeof flat) == 0);
+}
+
+namespace {
+
+// What a user sees of a record.
+struct Shown {
+  std::string shortText, detail, icon;
+  std::vector<uint8_t> parts;
+  bool operator==(const Shown&) const = default;
+};
+
+Shown Show(PrnInfo info) {
+  char text[512] = "", detail[512] = "", icon[32] = "";
+  PrnBitmap bitmap{};
+  CHECK(PatGetSimpleString(&info, text, sizeof text) == 1);
+  CHECK(PatGetDetailString(&info, detail, sizeof detail) == 1);
+  CHECK(PatGetErrParts(&info, icon) == 1);
+  CHECK(PatGetPrnBitmap(&info, &bitmap) == 1);
+  return {text, detail, icon, {std::begin(bitmap.partCodes), std::end(bitmap.partCodes)}};
+}
+
+Shown Show(const PrnInfoEx& record) {
+  char text[512] = "", detail[512] = "", icon[32] = "";
+  PrnBitmap bitmap{};
+  CHECK(PatGetSimpleString_Ex(&record, text, sizeof text) == 1);
+  CHECK(PatGetDetailString_Ex(&record, detail, sizeof detail) == 1);
+  CHECK(PatGetErrParts_Ex(&record, icon) == 1);
+  CHECK(PatGetPrnBitmap_Ex(&record, &bitmap) == 1);
+  return {text, detail, icon, {std::begin(bitmap.partCodes), std::end(bitmap.partCodes)}};
+}
+
+// A printer with an open cover and little toner, two trays and a duplex unit: as the print manager
+// and as the printer itself tell it.
+void TellOpenCover(PrintManager& manager) {
+  manager.SetStatus(0x2);
+  manager.AddStatuses({4, 36});
+  manager.AddTrays({Tray("Tray 1", "A4", 0x400), Tray("Tray 2", "A3", 0x100)}, 1);
+  manager.AddOptions({164});
+}
+
+constexpr std::string_view kOpenCover =
+    "\x1BS\r4,36\r0\r1\r1\n\x1BT\r1\r6\r2\r2\n\x1BZ\r1\r50\r2\r10\n\x1B\x43\r1\n\x1B ";
+
+}  // namespace
+
+TEST_CASE("by the print manager's road a list-based record shows what a reply shows") {
+  char english[] = "EN";
+  PatSetLocale(english);
+  PrintManager manager;
+  TellOpenCover(manager);
+  test::Record told, parsed;
+  REQUIRE(PatSetPMPrnInfoToPrnInfo(&told, &manager.record, kAllGroups) == 1);
+  REQUIRE(test::Parse(parsed, kOpenCover) == 1);
+  const Shown shown = Show(told);
+  CHECK(shown.shortText == "Cover Open");
+  CHECK(shown.icon == "ICO_ERR_COVER");
+  CHECK(shown.parts[0] != 0);
+  CHECK(shown == Show(parsed));
+}
+
+TEST_CASE("by the print manager's road a flat record shows what a reply shows") {
+  PrintManager manager;
+  TellOpenCover(manager);
+  PrnInfo told{}, parsed{};
+  const uint32_t groups = GroupStatus | GroupStatusList | GroupTrays | GroupOptions;
+  REQUIRE(PatSetPMPrnInfoToPrnInfo_0(&told, &manager.record, groups) == 1);
+  told.statusCode = StatusSeveralMarker;  // the caller's to set: the conversion lists only
+  test::GuardedBytes reply(kOpenCover);
+  REQUIRE(SetPrnInfoFromReadbackCmd(&parsed, reply.data(), reply.size()) == 1);
+  const Shown shown = Show(told);
+  CHECK(shown.icon == "ICO_ERR_COVER");
+  CHECK(shown.parts[0] != 0);
+  CHECK(shown == Show(parsed));
+
+  // A printer that does not respond needs no list.
+  manager.SetStatus(0x01000000);
+  PrnInfo silent{};
+  REQUIRE(PatSetPMPrnInfoToPrnInfo_0(&silent, &manager.record, GroupStatus) == 1);
+  PrnInfo noResponse{};
+  noResponse.statusCode = StatusNoResponse;
+  noResponse.noResponse = noResponse.online = 1;
+  CHECK(Show(silent) == Show(noResponse));
 }
