@@ -2,6 +2,7 @@
 #include "allocation_faults.h"
 #include "describe.h"
 #include "doctest/doctest.h"
+#include "print_manager.h"
 #include "support.h"
 
 namespace {
@@ -21,6 +22,21 @@ constexpr std::string_view kReply =
     "\x1B\x46\rGOTHIC\rKAISHO\n\x1B\x44\rF:3\rO:\x03\rD:1\n\x1B\x41\r1\n\x1B\x43\r1\n";
 constexpr std::string_view kFirstDeviceId = "MFG:A;CMD:NDL;MDL:B;DES:C;";
 constexpr std::string_view kDeviceId = "MFG:ORLEX;CMD:NDL,NPS;MDL:ZENTA C210;DES:ZENTA C210;";
+
+// Every group of the print manager's record. Papers and devices are known ones: with others a node
+// keeps what it held, which a fault may have taken.
+struct Manager : test::PrintManager {
+  Manager() {
+    SetStatus(0x00040082);
+    SetModel("ZENTA C210", "1.02", 7);
+    AddTrays({test::Tray("Tray1", "A4"), test::Tray("Tray2", "A3"), test::Tray("LCT", "B5")}, 2);
+    AddBins({{"Tray1", 0, nullptr}, {"Finisher", 1, nullptr}}, 1);
+    AddEmulations({{"WXDL-C", "2.0", nullptr}, {"OrlexScript2", "3.0", nullptr}}, 1);
+    AddFonts({{"GOTHIC"}, {"KAISHO"}, {"GYOUSHO"}});
+    AddOptions({163, 164});
+    AddStatuses({4, 5});
+  }
+};
 
 struct CallRow {
   const char* name;
@@ -45,6 +61,11 @@ const CallRow kCalls[] = {
     {"SetModelInfoFromDeviceID",
      [](Work& work) {
        return SetModelInfoFromDeviceID(&work.flat, kDeviceId.data(), uint32_t(kDeviceId.size()));
+     }},
+    {"PatSetPMPrnInfoToPrnInfo",
+     [](Work& work) {
+       static const Manager manager;
+       return PatSetPMPrnInfoToPrnInfo(&work.list, &manager.record, ~0u);
      }},
 };
 

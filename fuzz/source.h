@@ -1,0 +1,173 @@
+// Structured input for the fuzz targets: values, texts and whole records drawn from the bytes of
+// the fuzzer. What is drawn lies in blocks of its exact size, so that a read too far is noticed.
+#pragma once
+
+#include <cstdint>
+#include <cstring>
+#include <memory>
+#include <vector>
+
+#include "stmdata/stmdata.h"
+
+namespace fuzz {
+
+inline void Require(bool holds) {
+  if (!holds) __builtin_trap();
+}
+
+class Source {
+ public:
+  Source(const uint8_t* data, size_t size) : at_(data), left_(size) {}
+
+  bool Empty() const { return left_ == 0; }
+
+  // Zero when the input is used up.
+  uint8_t Byte() {
+    if (left_ == 0) return 0;
+    --left_;
+    return *at_++;
+  }
+  uint32_t Below(uint32_t limit) { return Byte() % limit; }
+  uint32_t Word() {
+    uint32_t word = 0;
+    for (int i = 0; i < 4; ++i)
+      word = word << 8 | Byte();
+    return word;
+  }
+  // Mostly a small number, now and then the absent mark or any word.
+  uint32_t Number() {
+    const uint8_t choice = Byte();
+    if (choice == 0xFF) return STM_ABSENT;
+    if (choice == 0xFE) return Word();
+    return choice;
+  }
+
+  // A block of the bytes, kept until the source goes.
+  void* Keep(const void* bytes, size_t size) {
+    kept_.push_back(std::make_unique<uint8_t[]>(size));
+    if (size > 0) std::memcpy(kept_.back().get(), bytes, size);
+    return kept_.back().get();
+  }
+  template <class Item>
+  Item* Keep(const Item& item) {
+    return static_cast<Item*>(Keep(&item, sizeof item));
+  }
+
+  // One of the names, a text of raw bytes, null, or `absent` (null where all-ones is no address
+  // that may be handed in).
+  template <size_t Count>
+  const char* Text(const char* const (&names)[Count], const char* absent) {
+    const uint32_t choice = Byte();
+    if (choice < Count)
+      return static_cast<char*>(Keep(names[choice], std::strlen(names[choice]) + 1));
+    if (choice == 0xFF) return absent;
+    if (choice == 0xFE) return nullptr;
+    std::vector<char> text(choice % 48 + (choice == 0xFD ? 300 : 0));
+    for (char& byte : text)
+      byte = static_cast<char>(Byte());
+    text.push_back('\0');
+    return static_cast<char*>(Keep(text.data(), text.size()));
+  }
+
+ private:
+  const uint8_t* at_;
+  size_t left_;
+  std::vector<std::unique_ptr<uint8_t[]>> kept_;
+};
+
+// ---- Records ------------------------------------------------------------------------------------
+
+// A chain of up to 40 nodes from GlobalAlloc with any contents, and a count that often fits it.
+template <class Node>
+void DrawList(Source& source, Node*& head, uint32_t& count) {
+  const uint32_t length = source.Below(4) ? source.Below(6) : source.Below(41);
+  Node** link = &head;
+  for (uint32_t i = 0; i < length; ++i) {
+    auto* node = static_cast<Node*>(GlobalAlloc(GPTR, sizeof(Node)));
+    node->nodeSize = sizeof(Node);
+    uint16_t fields[3] = {static_cast<uint16_t>(source.Number()), 0, 0};
+    if (sizeof(Node) <= 20) fields[1] = static_cast<uint16_t>(source.Number());
+    if (sizeof(Node) == 20) fields[2] = static_cast<uint16_t>(source.Number());
+    std::memcpy(reinterpret_cast<char*>(node) + 8, fields, sizeof(Node) == 20 ? 6 : 4);
+    *link = node;
+    link = &node->next;
+  }
+  count = source.Below(4) ? length : source.Number();
+}
+
+inline char* DrawText(Source& source) {
+  const uint8_t length = source.Byte();
+  if (length > 40) return nullptr;
+  auto* text = static_cast<char*>(GlobalAlloc(GPTR, length + 1u));
+  for (uint8_t i = 0; i < length; ++i)
+    text[i] = static_cast<char>(source.Byte());
+  return text;
+}
+
+template <class Node>
+uint32_t Length(const Node* head) {
+  uint32_t length = 0;
+  for (; head; head = head->next)
+    ++length;
+  return length;
+}
+
+template <class Node>
+void ReleaseList(Node*& head) {
+  while (head) {
+    Node* next = head->next;
+    GlobalFree(head);
+    head = next;
+  }
+}
+
+// A list-based record with real chains, released at the end.
+struct ListRecord : PrnInfoEx {
+  ListRecord() : PrnInfoEx{} {}
+  ListRecord(const ListRecord&) = delete;
+  ListRecord& operator=(const ListRecord&) = delete;
+  ~ListRecord() {
+    for (char* text :
+         {modelName, manufacturer, description, versionText1, versionText2, versionText3})
+      GlobalFree(text);
+    ReleaseList(statusList);
+    ReleaseList(emulationList);
+    ReleaseList(fontList);
+    ReleaseList(trayList);
+    ReleaseList(binList);
+    ReleaseList(optionList);
+  }
+
+  void Draw(Source& source) {
+    DrawList(source, statusList, statusCount);
+    DrawList(source, trayList, trayCount);
+    DrawList(source, binList, binCount);
+    DrawList(source, optionList, optionCount);
+    DrawList(source, emulationList, emulationCount);
+    DrawList(source, fontList, fontCount);
+    for (char** text :
+         {&modelName, &manufacturer, &description, &versionText1, &versionText2, &versionText3})
+      *text = DrawText(source);
+    for (uint32_t* number :
+         {&recordTag, &structSize, &modelInfoNumber, &emulationCode, &currentTray, &currentBin})
+      *number = source.Number();
+    for (uint8_t* flag : {&offline, &modelCode, &online, &hasError, &printing, &noResponse})
+      *flag = source.Below(3) ? source.Byte() & 1 : source.Byte();
+  }
+};
+
+// A flat record of any bytes, the numbers among them often small.
+inline void DrawFlat(Source& source, PrnInfo& info) {
+  uint32_t words[sizeof info / 4];
+  const uint8_t fill = source.Byte();
+  std::memset(words, fill, sizeof words);
+  for (uint32_t left = source.Byte(); left > 0 && !source.Empty(); --left)
+    words[(source.Byte() << 8 | source.Byte()) % (sizeof info / 4)] = source.Number();
+  std::memcpy(&info, words, sizeof info);
+  if (source.Below(8)) info.noResponse = 0;
+  if (source.Below(4)) info.statusCount = source.Below(34);
+  for (uint32_t i = 0; i < 6; ++i)
+    info.statusList[i] = source.Number();
+}
+
+}  // namespace fuzz
