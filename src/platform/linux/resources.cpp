@@ -2,7 +2,7 @@
 #include <algorithm>
 #include <cstdlib>
 #include <cstring>
-#include <span>
+#include <initializer_list>
 
 #include "platform/linux/language.h"
 #include "platform/windows_api.h"
@@ -149,19 +149,23 @@ const Entry* FindFrom(Entry asked, LANGID language) {
   return entry != end && CompareNames(*entry, asked) == 0 ? entry : nullptr;
 }
 
+const Entry* FindOneOf(const Entry& asked, std::initializer_list<LANGID> languages) {
+  for (LANGID language : languages) {
+    const Entry* entry = FindFrom(asked, language);
+    if (entry && entry->language == language) return entry;
+  }
+  return nullptr;
+}
+
 // The languages to try, in order. A caller without a wish gets the thread's language, that of the
 // environment, English, and at last any; a caller with one gets it or a neutral one.
 const Entry* ChooseLanguage(const Entry& asked, LANGID language) {
   constexpr LANGID kPrimaryMask = 0x3FF;
   const auto primary = static_cast<LANGID>(language & kPrimaryMask);
-  const LANGID withWish[] = {language, primary, kNeutral};
-  const LANGID without[] = {language, GetThreadUILanguage(), EnvironmentLanguage(), kEnglish};
-  const bool anyLanguage = primary == kNeutral;
-  for (LANGID one : anyLanguage ? std::span<const LANGID>(without) : withWish) {
-    const Entry* entry = FindFrom(asked, one);
-    if (entry && entry->language == one) return entry;
-  }
-  return anyLanguage ? FindFrom(asked, 0) : nullptr;
+  if (primary != kNeutral) return FindOneOf(asked, {language, primary, kNeutral});
+  const Entry* entry =
+      FindOneOf(asked, {language, GetThreadUILanguage(), EnvironmentLanguage(), kEnglish});
+  return entry ? entry : FindFrom(asked, kNeutral);
 }
 
 HRSRC FailWith(DWORD systemError) {
