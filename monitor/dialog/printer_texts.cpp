@@ -71,21 +71,21 @@ bool IsAscii(std::string_view text) {
 
 const Language kLanguages[] = {
     //  code  id    name
-    {"CS", 1029, L"\u010Ce\u0161tina"},
-    {"DA", 1030, L"Dansk"},
-    {"DE", 1031, L"Deutsch"},
-    {"EN", 1033, L"English"},
-    {"ES", 1034, L"Espa\u00F1ol"},
-    {"FR", 1036, L"Fran\u00E7ais"},
-    {"IT", 1040, L"Italiano"},
-    {"HU", 1038, L"Magyar"},
-    {"NL", 1043, L"Nederlands"},
-    {"NO", 1044, L"Norsk"},
-    {"PL", 1045, L"Polski"},
-    {"PT", 1046, L"Portugu\u00EAs"},
-    {"FI", 1035, L"Suomi"},
-    {"SV", 1053, L"Svenska"},
-    {"JP", 1041, L"\u65E5\u672C\u8A9E"},
+    {"CS", 1029, L"\u010Ce\u0161tina (CS)"},
+    {"DA", 1030, L"Dansk (DA)"},
+    {"DE", 1031, L"Deutsch (DE)"},
+    {"EN", 1033, L"English (EN)"},
+    {"ES", 1034, L"Espa\u00F1ol (ES)"},
+    {"FR", 1036, L"Fran\u00E7ais (FR)"},
+    {"IT", 1040, L"Italiano (IT)"},
+    {"HU", 1038, L"Magyar (HU)"},
+    {"NL", 1043, L"Nederlands (NL)"},
+    {"NO", 1044, L"Norsk (NO)"},
+    {"PL", 1045, L"Polski (PL)"},
+    {"PT", 1046, L"Portugu\u00EAs (PT)"},
+    {"FI", 1035, L"Suomi (FI)"},
+    {"SV", 1053, L"Svenska (SV)"},
+    {"JP", 1041, L"\u65E5\u672C\u8A9E (JP)"},
     {nullptr, 0, nullptr},  // closing row
 };
 

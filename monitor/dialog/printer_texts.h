@@ -15,7 +15,7 @@ namespace stmonw {
 struct Language {
   const char* code;  // of PatSetLocale
   LANGID id;
-  const wchar_t* name;  // in the language itself
+  const wchar_t* name;  // in the language itself, and the code for fonts without its letters
 };
 extern const Language kLanguages[];  // closed by a null code
 

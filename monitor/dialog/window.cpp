@@ -84,7 +84,7 @@ void MakeFonts(Window& window) {
   font.lfHeight = MulDiv(font.lfHeight, 5, 4);
   font.lfWeight = FW_BOLD;
   window.headline_font = CreateFontIndirectW(&font);
-  for (const int id : {IDC_DETAIL, IDC_OTHERS, IDC_TRAYS, IDC_EQUIPMENT})
+  for (const int id : {IDC_LANGUAGE, IDC_DETAIL, IDC_OTHERS, IDC_TRAYS, IDC_EQUIPMENT})
     SendMessageW(Item(window, id), WM_SETFONT, reinterpret_cast<WPARAM>(window.text_font), TRUE);
 }
 

@@ -131,15 +131,15 @@ TEST_CASE("the window tells a printer's state, its absence and its return") {
   CHECK(Line(program, IDC_EQUIPMENT, 0) == L"Stapler");
   CHECK(WaitFor([&] { return DrawnPixels(program) > 20; }));
 
-  ChooseLanguage(program, L"\u65E5\u672C\u8A9E");
+  ChooseLanguage(program, L"\u65E5\u672C\u8A9E (JP)");
   CHECK(Text(program, IDC_SHORT) == L"\uFF84\uFF85\uFF70\u306A\u3057");
   CHECK(Line(program, IDC_TRAYS, 0)
             .starts_with(L"\uFF84\uFF9A\uFF72"
                          L"1"));
-  ChooseLanguage(program, L"\u010Ce\u0161tina");
+  ChooseLanguage(program, L"\u010Ce\u0161tina (CS)");
   CHECK(Text(program, IDC_SHORT).find(L'?') == std::wstring::npos);
 
-  ChooseLanguage(program, L"English");
+  ChooseLanguage(program, L"English (EN)");
   printer.reset();
   CHECK(WaitFor([&] { return Text(program, IDC_SHORT) == L"No Response From Printer"; }));
   CHECK(Lines(program, IDC_TRAYS) == 2);
