@@ -3,5 +3,4 @@
 int main() {
   bench::BenchRecords();
   bench::BenchPrintManager();
-  bench::BenchStatus();
 }

@@ -3,6 +3,7 @@
 #include <thread>
 
 #include "CLI/CLI.hpp"
+#include "catalogue.h"
 #include "console.h"
 #include "options.h"
 #include "reports.h"
@@ -46,6 +47,11 @@ void Describe(CLI::App& app, Options& options) {
   app.add_option("--record", options.record, "which of the library's records answers, default list")
       ->option_text("list|flat")
       ->check(CLI::IsMember({"list", "flat"}));
+  app.add_option("--lang", options.language,
+                 "EN DE FR IT ES NL SV DA NO CS HU PT PL FI JP; default from the locale, else EN")
+      ->option_text("CODE|all");
+  app.add_flag("--catalogue", options.catalogue,
+               "print every status the library knows, in all languages or that of --lang");
   app.add_option("--save-reply", options.save_file, "keep the reply for later")
       ->option_text("FILE");
   app.add_flag("--json", options.json, "one JSON object on standard output");
@@ -117,9 +123,14 @@ int Simulate(const Options& options, const Scenario& scenario) {
   return 0;
 }
 
+const Language& ChosenLanguage(const Options& options) {
+  const Language* language = FindLanguage(options.language);
+  return language ? *language : UserLanguage();
+}
+
 Source SourceOf(const Options& options, std::string name) {
   return {std::move(name), "", options.device_id,
-          options.record == "flat" ? RecordKind::Flat : RecordKind::List};
+          options.record == "flat" ? RecordKind::Flat : RecordKind::List, &ChosenLanguage(options)};
 }
 
 Snapshot AskFile(const Options& options) {
@@ -174,10 +185,11 @@ int Report(const Options& options, const Snapshot& snapshot) {
   std::optional<std::chrono::system_clock::time_point> last_answer;
   if (IsGood(snapshot)) last_answer = snapshot.when;
   const bool written = WriteFiles(options, snapshot, last_answer);
+  const bool all_languages = options.language == "all";
   if (options.json) {
-    Print(JsonReport(snapshot));
+    Print(JsonReport(snapshot, all_languages));
   } else if (snapshot.told || snapshot.identity) {
-    Print(TextReport(snapshot));
+    Print(TextReport(snapshot, all_languages));
   }
   if (options.raw) Print((options.json ? "" : "\n") + RawReport(snapshot));
   if (!snapshot.trouble.empty()) Fail(CleanUtf8(snapshot.source.name + ": " + snapshot.trouble));
@@ -242,7 +254,26 @@ int ShowDeviceId(const Options& options) {
   return Report(options, snapshot);
 }
 
+std::string LanguageCodes() {
+  std::string codes;
+  for (const Language* language = kLanguages; language->code; ++language)
+    codes += std::string(language->code) + " ";
+  return codes;
+}
+
+int PrintCatalogue(const Options& options) {
+  const Language* only = FindLanguage(options.language);
+  Print(options.json ? CatalogueJson(only) : CatalogueText(only));
+  return 0;
+}
+
 int Run(const Options& options) {
+  const bool all = options.language == "all" || options.language.empty();
+  if (!all && !FindLanguage(options.language)) {
+    return Fail("--lang " + EscapeBytes(options.language) + ": not one of " + LanguageCodes() +
+                "all.");
+  }
+  if (options.catalogue) return PrintCatalogue(options);
   if (options.scenario == "list") return ListScenarios();
   if (OnlyDeviceId(options)) return ShowDeviceId(options);
   Scenario scenario;

@@ -10,12 +10,14 @@ struct Options {
   std::string reply_file;       // a saved reply instead of a printer
   std::string device_id;        // shown alone or beside the poll
   std::string record = "list";  // or "flat"
+  std::string language;         // code, "all", or empty: that of the user's locale
   std::string save_file;        // where to keep the reply
   std::string metrics_file;     // where to write the metrics
   std::string scenario;         // empty: ready
   std::string simulate;         // port to be a simulated printer at
   double watch = 0;             // seconds between polls, 0: one poll
   double timeout = 5;           // seconds for a poll
+  bool catalogue = false;
   bool json = false;
   bool raw = false;
 };

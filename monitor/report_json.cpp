@@ -18,9 +18,17 @@ Json AlertJson(const Reason& reason) {
   return json;
 }
 
+Json TextsJson(const Texts& texts) {
+  return {{"short", texts.brief}, {"detail", texts.detail}};
+}
+
 Json ConditionJson(const Condition& condition, bool dominant) {
   const Reason& reason = *condition.reason;
-  Json json{{"code", condition.code}, {"known", condition.known}, {"dominant", dominant}};
+  Json json{{"code", condition.code},
+            {"known", condition.known},
+            {"dominant", dominant},
+            {"rank", condition.rank}};
+  json["texts"] = TextsJson(condition.texts);
   if (condition.known) json["level"] = condition.row.level;
   json["severity"] = SeverityWord(reason.severity);
   json["reason"] = Keyword(reason);
@@ -72,10 +80,28 @@ Json IdentityJson(const Identity& identity) {
   return json;
 }
 
+std::string WhyText(const Snapshot& snapshot) {
+  if (snapshot.dominant.empty()) return "no condition is reported";
+  const uint32_t code = snapshot.dominant[0];
+  const bool known = std::any_of(
+      snapshot.conditions.begin(), snapshot.conditions.end(),
+      [&](const Condition& condition) { return condition.code == code && condition.known; });
+  if (!known) return "no reported code is known; the first one stands for the printer";
+  if (snapshot.dominant.size() > 1) return "these codes share the most important rank";
+  return snapshot.conditions.size() > 1 ? "the most important of the reported codes"
+                                        : "the only reported code";
+}
+
 void AddState(Json& json, const Snapshot& snapshot) {
   json["online"] = snapshot.online;
   json["printer_state"] = StateWord(snapshot);
   json["printer_state_reasons"] = StateReasons(snapshot);
+  json["language"] = snapshot.source.language->code;
+  json["status"] = StatusText(snapshot);
+  json["texts"] = TextsJson(snapshot.texts);
+  json["icon"] = snapshot.icon;
+  json["dominant"] = snapshot.dominant;
+  json["why"] = WhyText(snapshot);
   json["conditions"] = Json::array();
   for (const Condition& condition : snapshot.conditions)
     json["conditions"].push_back(ConditionJson(condition, IsDominant(snapshot, condition.code)));
@@ -96,7 +122,7 @@ void AddEquipment(Json& json, const Snapshot& snapshot) {
   for (const std::string& version : snapshot.versions)
     json["versions"].push_back(EscapeBytes(version));
   if (snapshot.number) json["number"] = *snapshot.number;
-  if (snapshot.language) json["language"] = LanguageJson(*snapshot.language);
+  if (snapshot.language) json["printer_language"] = LanguageJson(*snapshot.language);
   if (!snapshot.fonts.empty()) json["font_codes"] = snapshot.fonts;
   for (const std::string& name : snapshot.font_names)
     json["fonts"].push_back(EscapeBytes(name));
@@ -104,7 +130,7 @@ void AddEquipment(Json& json, const Snapshot& snapshot) {
 
 }  // namespace
 
-std::string JsonReport(const Snapshot& snapshot) {
+std::string JsonReport(const Snapshot& snapshot, bool all_languages) {
   Json json;
   if (!snapshot.source.name.empty()) json["source"] = CleanUtf8(snapshot.source.name);
   json["time"] = UtcText(snapshot.when);
@@ -116,6 +142,10 @@ std::string JsonReport(const Snapshot& snapshot) {
   if (snapshot.told) {
     json["record"] = snapshot.source.kind == RecordKind::Flat ? "flat" : "list";
     AddState(json, snapshot);
+    if (all_languages) {
+      for (const Language* language = kLanguages; language->code; ++language)
+        json["all_texts"][language->code] = TextsJson(TextsIn(snapshot, *language));
+    }
     AddEquipment(json, snapshot);
   }
   return json.dump() + "\n";

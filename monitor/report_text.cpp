@@ -56,6 +56,36 @@ std::vector<std::string> Names(const std::vector<Item>& items, Name name) {
   return names;
 }
 
+void AddLines(std::string& report, std::string_view label, std::string_view text) {
+  while (!text.empty()) {
+    const size_t end = text.find('\n');
+    AddRow(report, label, text.substr(0, end));
+    text.remove_prefix(end == std::string_view::npos ? text.size() : end + 1);
+    label = "";
+  }
+}
+
+void AddLanguages(std::string& report, const Snapshot& snapshot) {
+  for (const Language* language = kLanguages; language->code; ++language) {
+    const Texts texts = TextsIn(snapshot, *language);
+    AddRow(report, std::string("  ") + language->code, texts.brief);
+    AddLines(report, "", texts.detail);
+  }
+}
+
+// One condition that the status line tells in full needs no list.
+void AddConditions(std::string& report, const Snapshot& snapshot) {
+  const char* label = "Conditions";
+  const bool told_already = snapshot.conditions.size() == 1 && snapshot.conditions[0].known;
+  if (told_already) return;
+  for (const Condition& condition : snapshot.conditions) {
+    AddRow(report, label,
+           Padded(std::to_string(condition.code), 5) +
+               Padded(SeverityWord(condition.reason->severity), 9) + ConditionText(condition));
+    label = "";
+  }
+}
+
 void AddIdentity(std::string& report, const Identity& identity) {
   if (!identity.model.empty()) AddRow(report, "Model", EscapeBytes(identity.model));
   if (!identity.maker.empty()) AddRow(report, "Maker", EscapeBytes(identity.maker));
@@ -81,13 +111,16 @@ void AddEquipment(std::string& report, const Snapshot& snapshot) {
 
 }  // namespace
 
-std::string TextReport(const Snapshot& snapshot) {
+std::string TextReport(const Snapshot& snapshot, bool all_languages) {
   std::string report;
   if (!snapshot.source.name.empty()) AddRow(report, "Printer", CleanUtf8(snapshot.source.name));
   if (snapshot.identity) AddIdentity(report, *snapshot.identity);
   if (!snapshot.told) return report;
-  AddList(report, "Status", Names(snapshot.conditions, ConditionText));
+  AddRow(report, "Status", StatusText(snapshot));
+  AddLines(report, "", snapshot.texts.detail);
+  if (all_languages) AddLanguages(report, snapshot);
   AddRow(report, "Online", snapshot.online ? "yes" : "no");
+  AddConditions(report, snapshot);
   AddList(report, "Trays", Names(snapshot.trays, [&](const Tray& tray) {
             return TrayText(tray, snapshot.current_tray == tray.id);
           }));

@@ -10,8 +10,9 @@
 
 namespace stmon {
 
-std::string TextReport(const Snapshot& snapshot);
-std::string JsonReport(const Snapshot& snapshot);
+// `all_languages`: the state's texts in every language of the library as well.
+std::string TextReport(const Snapshot& snapshot, bool all_languages = false);
+std::string JsonReport(const Snapshot& snapshot, bool all_languages = false);
 std::string RawReport(const Snapshot& snapshot);
 
 // Prometheus text. Nothing but the time of the last good answer is told of a printer that does not

@@ -58,7 +58,7 @@ struct PrinterState {
   bool online = true;
   std::string tray = "1";
   std::string bin = "1";  // empty: the printer does not tell
-  std::vector<ScenarioTray> trays = {{"1", "6", 75}, {"2", "2", 50}, {"T", "-1", 0}};
+  std::vector<ScenarioTray> trays = {{"1", "6", 75}, {"2", "2", 50}, {"T", "6", 25}};
   std::vector<ScenarioBin> bins = {{"1", 0}};
   std::vector<ScenarioVersion> versions = {{"SYS", "1.01"}, {"NWC", "2.00"}};
   uint32_t number = 64;

@@ -32,7 +32,7 @@ const NamedScenario kNamedScenarios[] = {
      "tray 1 6 100\n"
      "tray 2 2 75\n"
      "tray 3 8 50\n"
-     "tray T -1 0\n"
+     "tray T 6 25\n"
      "bin 1 0\n"
      "bin 2 1\n"},
     {"changing", "runs out of paper, is refilled, and so on through a working day",

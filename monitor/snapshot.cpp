@@ -2,6 +2,7 @@
 
 #include <algorithm>
 
+#include "ranking.h"
 #include "reply_frame.h"
 
 namespace stmon {
@@ -76,13 +77,73 @@ bool Has(const std::vector<Block>& blocks, char letter) {
 }
 
 Condition LookUp(uint32_t code) {
-  Condition condition{.code = code};
+  Condition condition;
+  condition.code = code;
   PrnInfo probe{};
   probe.structSize = PrnInfoSize;
   probe.statusCode = code >= 49 && code <= 64 ? 48 : code;  // service calls share one row
   condition.known = PatGetPrinterStatus(&probe, &condition.row) == 1;
   condition.reason = &ReasonOf(code);
   return condition;
+}
+
+const Condition* Find(const Snapshot& snapshot, uint32_t code) {
+  for (const Condition& condition : snapshot.conditions) {
+    if (condition.code == code) return &condition;
+  }
+  return nullptr;
+}
+
+// Codes without a rank come last; the first of them stands for the printer when there is no other.
+void Rank(Snapshot& snapshot) {
+  std::vector<uint32_t> codes;
+  for (const Condition& condition : snapshot.conditions)
+    codes.push_back(condition.code);
+  const auto groups = RankCodes(codes);
+  const auto last = static_cast<uint32_t>(groups.size()) + 1;
+  for (Condition& condition : snapshot.conditions) {
+    condition.rank = last;
+    for (uint32_t i = 0; i < groups.size(); ++i) {
+      const auto& group = groups[i];
+      if (std::find(group.begin(), group.end(), condition.code) != group.end())
+        condition.rank = i + 1;
+    }
+  }
+  std::stable_sort(
+      snapshot.conditions.begin(), snapshot.conditions.end(),
+      [](const Condition& left, const Condition& right) { return left.rank < right.rank; });
+  if (!groups.empty()) {
+    snapshot.dominant = groups[0];
+  } else if (!snapshot.conditions.empty()) {
+    snapshot.dominant = {snapshot.conditions[0].code};
+  }
+}
+
+Texts TextsOfCode(const Snapshot& snapshot, uint32_t code) {
+  const auto& options = snapshot.options;
+  const bool duplex = options && std::any_of(options->begin(), options->end(), [](const Option& o) {
+                        return o.code == OptionDuplex;
+                      });
+  const StatusSample sample(code, duplex);
+  const Language& language = *snapshot.source.language;
+  return snapshot.source.kind == RecordKind::Flat ? AskTexts(sample.flat, language, code)
+                                                  : AskTexts(sample.list, language);
+}
+
+void TakeTexts(Snapshot& snapshot) {
+  snapshot.texts = TextsIn(snapshot, *snapshot.source.language);
+  snapshot.icon = snapshot.source.kind == RecordKind::Flat ? AskIcon(*snapshot.flat)
+                                                           : AskIcon(*snapshot.record);
+  for (Condition& condition : snapshot.conditions) {
+    if (condition.known) condition.texts = TextsOfCode(snapshot, condition.code);
+  }
+  // The library takes a printer whose codes it does not know for ready; the exit status does not,
+  // and words and icon must agree with it.
+  const Condition* dominant = Find(snapshot, snapshot.dominant.empty() ? 0 : snapshot.dominant[0]);
+  if (dominant && !dominant->known) {
+    snapshot.texts = {};
+    snapshot.icon = "BMP_ERR_CAUTION";
+  }
 }
 
 RecordView ChosenView(const Snapshot& snapshot) {
@@ -98,6 +159,7 @@ void TakeStatus(Snapshot& snapshot, const RecordView& view) {
                                       [&](const Condition& other) { return other.code == code; });
     if (!repeated) snapshot.conditions.push_back(LookUp(code));
   }
+  Rank(snapshot);
   if (view.current_tray != 0) snapshot.current_tray = view.current_tray;
   if (view.current_bin != 0 && view.current_bin != BinUnknown)
     snapshot.current_bin = view.current_bin;
@@ -150,25 +212,6 @@ Snapshot NewSnapshot(Source source) {
   snapshot.flat->structSize = PrnInfoSize;
   ReadDeviceId(snapshot);
   return snapshot;
-}
-
-const Condition* Find(const Snapshot& snapshot, uint32_t code) {
-  for (const Condition& condition : snapshot.conditions) {
-    if (condition.code == code) return &condition;
-  }
-  return nullptr;
-}
-
-// A code that nobody knows is chosen only when there is no other.
-void ChooseDominant(Snapshot& snapshot) {
-  const Condition* worst = nullptr;
-  for (const Condition& condition : snapshot.conditions) {
-    const bool better =
-        !worst || condition.known > worst->known ||
-        (condition.known == worst->known && condition.reason->severity > worst->reason->severity);
-    if (better) worst = &condition;
-  }
-  if (worst) snapshot.dominant = {worst->code};
 }
 
 // The dominant condition decides. A code that nobody knows is of the error class: beside a harmless
@@ -230,23 +273,34 @@ Snapshot ReadExchange(Source source, Exchange exchange) {
   const RecordView view = ChosenView(snapshot);
   TakeStatus(snapshot, view);
   TakeBlocks(snapshot, view, blocks);
-  ChooseDominant(snapshot);
+  TakeTexts(snapshot);
   snapshot.verdict = Judge(snapshot);
   return snapshot;
 }
 
+Texts TextsIn(const Snapshot& snapshot, const Language& language) {
+  if (snapshot.source.kind == RecordKind::List) return AskTexts(*snapshot.record, language);
+  const uint32_t dominant = snapshot.dominant.empty() ? 0 : snapshot.dominant[0];
+  return AskTexts(*snapshot.flat, language, dominant);
+}
+
+// Mild conditions all read "ready"; what to do about them says more.
 std::string ConditionText(const Condition& condition) {
-  const std::string keyword = condition.code == 0 ? "ready" : Keyword(*condition.reason);
-  return keyword + " (code " + std::to_string(condition.code) + ")";
+  if (!condition.known) return "Unknown condition, code " + std::to_string(condition.code);
+  const bool mild = condition.reason->severity != Severity::Error;
+  const Texts& texts = condition.texts;
+  std::string text = mild && !texts.detail.empty() ? texts.detail : texts.brief;
+  std::replace(text.begin(), text.end(), '\n', ' ');
+  if (text.empty()) text = Keyword(*condition.reason);
+  const std::string colour = TonerColour(condition.code);
+  return mild || colour.empty() ? text : text + " (" + colour + ")";
 }
 
 std::string StatusText(const Snapshot& snapshot) {
-  std::string text = snapshot.online ? "" : "offline";
-  for (const uint32_t code : snapshot.dominant) {
-    const Condition* condition = Find(snapshot, code);
-    if (condition) text += (text.empty() ? "" : ", ") + ConditionText(*condition);
-  }
-  return text;
+  if (!snapshot.texts.brief.empty()) return snapshot.texts.brief;
+  const Condition* dominant = Find(snapshot, snapshot.dominant.empty() ? 0 : snapshot.dominant[0]);
+  if (dominant) return ConditionText(*dominant);
+  return snapshot.online ? "online" : "offline";
 }
 
 std::vector<std::string> StateReasons(const Snapshot& snapshot) {

@@ -13,6 +13,7 @@
 #include "reasons.h"
 #include "record.h"
 #include "record_view.h"
+#include "texts.h"
 #include "transport.h"
 
 namespace stmon {
@@ -25,6 +26,8 @@ struct Condition {
   bool known = false;  // has a row in the library's table
   StatusRow row{};
   const Reason* reason = nullptr;  // never null once read
+  uint32_t rank = 0;               // 1 decides; the others in the order in which they would
+  Texts texts;                     // of this code alone
 };
 
 // What the printer is, from its Device ID.
@@ -45,6 +48,7 @@ struct Source {
   std::string query;  // the bytes that were sent; empty when a saved reply is shown
   std::string device_id;
   RecordKind kind = RecordKind::List;
+  const Language* language = &kLanguages[0];
 };
 
 struct Snapshot {
@@ -61,8 +65,10 @@ struct Snapshot {
   bool told = false;  // a status block arrived: what follows means something
   bool online = false;
   bool has_error = false;
-  std::vector<Condition> conditions;  // in the printer's order, without repetitions
+  std::vector<Condition> conditions;  // most important first, without repetitions
   std::vector<uint32_t> dominant;     // the codes that decide; several for toners of one kind
+  Texts texts;                        // of the printer's state
+  std::string icon;                   // the name of the state icon
   std::optional<uint32_t> current_tray;
   std::optional<uint32_t> current_bin;
   std::vector<Tray> trays;
@@ -84,9 +90,12 @@ Snapshot ReadExchange(Source source, Exchange exchange);
 // A Device ID alone, without a poll.
 Snapshot ReadIdentity(Source source);
 
-// For people: "media-empty-error (code 32)".
+// In one line for people: the library's words, or the keyword where it has none.
 std::string ConditionText(const Condition& condition);
 std::string StatusText(const Snapshot& snapshot);
+
+// The library's words in another language.
+Texts TextsIn(const Snapshot& snapshot, const Language& language);
 
 // The keywords of all conditions, "none" when there is none: printer-state-reasons.
 std::vector<std::string> StateReasons(const Snapshot& snapshot);

@@ -14,8 +14,14 @@ namespace {
 // The parts of a group by name or number, each as a text for people.
 using Parts = std::map<std::string, std::string>;
 
+// "Online/Ready" alone does not tell one reminder from another.
 Parts StatusParts(const Snapshot& snapshot) {
-  return {{"", StatusText(snapshot)}};
+  std::string text = StatusText(snapshot);
+  for (const Condition& condition : snapshot.conditions) {
+    const bool reminder = condition.reason->severity == Severity::Warning;
+    if (condition.rank == 1 && reminder) text += ", " + ConditionText(condition);
+  }
+  return {{"", text}};
 }
 
 Parts StateParts(const Snapshot& snapshot) {
@@ -72,17 +78,31 @@ Parts ModelParts(const Snapshot& snapshot) {
 
 struct Group {
   const char* name;
+  uint32_t bits;  // what the library compares
   Parts (*parts)(const Snapshot& snapshot);
 };
 
 constexpr Group kGroups[] = {
-    {"status", StatusParts}, {"state", StateParts},    {"trays", TrayParts},
-    {"bins", BinParts},      {"options", OptionParts}, {"language", LanguageParts},
-    {"fonts", FontParts},    {"model", ModelParts},
+    {"status", GroupStatusList, StatusParts},                //
+    {"state", GroupStatus, StateParts},                      //
+    {"trays", GroupTrays, TrayParts},                        //
+    {"bins", GroupBins, BinParts},                           //
+    {"options", GroupOptions, OptionParts},                  //
+    {"language", GroupEmulation, LanguageParts},             //
+    {"fonts", GroupFonts, FontParts},                        //
+    {"model", GroupModelInfo | GroupEmulation, ModelParts},  // versions are in both groups
 };
 
+bool Agree(const Snapshot& before, const Snapshot& after, uint32_t groups) {
+  uint32_t equal = 0;
+  PatCmpPrnInfoEX(before.record.get(), after.record.get(), groups, &equal);
+  return equal == 1;
+}
+
+// The library says whether the group changed, the parts say what.
 void AddGroup(std::vector<Event>& events, const Group& group, const Snapshot& before,
               const Snapshot& after) {
+  if (Agree(before, after, group.bits)) return;
   const Parts old_parts = group.parts(before);
   const Parts new_parts = group.parts(after);
   for (const auto& [key, text] : old_parts) {

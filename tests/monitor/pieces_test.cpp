@@ -152,7 +152,7 @@ TEST_CASE("the simulated printer answers what was asked, and its status always")
   CHECK(stmon::BuildReply(state, "") == "\x1BS\r0\r0\r1\r1\n\x1B ");
   state.online = false;
   state.bin = "";
-  CHECK(stmon::BuildReply(state, "HBT") == "\x1BS\r0\r1\r1\n\x1BT\r1\r6\r2\r2\rT\r-1\n\x1B ");
+  CHECK(stmon::BuildReply(state, "HBT") == "\x1BS\r0\r1\r1\n\x1BT\r1\r6\r2\r2\rT\r6\n\x1B ");
 }
 
 TEST_CASE("nothing that controls a terminal leaves") {

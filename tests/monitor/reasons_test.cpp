@@ -54,7 +54,7 @@ TEST_CASE("the exit status follows the dominant condition") {
        "65,32",
        true,
        stmon::Verdict::CannotPrint,
-       {"toner-low-warning", "media-empty-error"}},
+       {"media-empty-error", "toner-low-warning"}},
       {"a service call",
        "60",
        true,

@@ -1,0 +1,32 @@
+// The printer's picture and icon as pixels, and pixels as PNG or as coloured text.
+#pragma once
+
+#include <cstdint>
+#include <string>
+#include <vector>
+
+#include "stmdata/stmdata.h"
+
+namespace stmon {
+
+struct Image {
+  int width = 0;
+  int height = 0;
+  std::vector<uint32_t> pixels;  // 0xAARRGGBB, top row first; empty when nothing could be drawn
+};
+
+// 320 x 200 pixels.
+Image DrawPicture(const PrnInfoEx& record);
+Image DrawPicture(const PrnInfo& info);
+
+// By the name that the library gave. The two names that it has no icon for get the nearest one:
+// offline for a printer without power, caution for a code without an icon.
+Image DrawIcon(const std::string& name);
+
+std::string EncodePng(const Image& image);
+
+// Two pixels a character, scaled down to at most so many columns. `true_colour`: 24 bits, else the
+// 216 colours that nearly every terminal has.
+std::string HalfBlocks(const Image& image, int columns, bool true_colour);
+
+}  // namespace stmon

@@ -1,0 +1,106 @@
+#include "texts.h"
+
+#include <cstring>
+
+namespace stmon {
+namespace {
+
+constexpr int32_t kSize = 1024;  // bytes; the longest text has about 250
+
+std::string_view Trimmed(std::string_view line) {
+  while (!line.empty() && (line.front() == ' ' || line.front() == '\r'))
+    line.remove_prefix(1);
+  while (!line.empty() && (line.back() == ' ' || line.back() == '\r'))
+    line.remove_suffix(1);
+  return line;
+}
+
+// Lines without blanks around them, without empty lines, without a line feed at the end.
+std::string Tidy(std::string_view text) {
+  std::string tidy;
+  while (!text.empty()) {
+    const size_t end = text.find('\n');
+    const std::string_view line = Trimmed(text.substr(0, end));
+    text.remove_prefix(end == std::string_view::npos ? text.size() : end + 1);
+    if (line.empty()) continue;
+    if (!tidy.empty()) tidy += '\n';
+    tidy += line;
+  }
+  return tidy;
+}
+
+// The flat record's detail text of a toner status ends with colour names of code page 932, whatever
+// its language; they stand behind the last line feed.
+std::string FlatDetail(std::string_view text, uint32_t dominant) {
+  const bool colours = dominant >= 65 && dominant <= 76;
+  const size_t last = colours ? text.rfind('\n') : std::string_view::npos;
+  if (last == std::string_view::npos) return Tidy(ToUtf8(text, CP_ACP));
+  return Tidy(ToUtf8(text.substr(0, last), CP_ACP) + "\n" + ToUtf8(text.substr(last + 1), 932));
+}
+
+}  // namespace
+
+Texts AskTexts(const PrnInfoEx& record, const Language& language) {
+  char name[4] = "";
+  std::strncpy(name, language.code, sizeof name - 1);
+  PatSetLocale(name);
+  char buffer[kSize] = "";
+  Texts texts;
+  if (PatGetSimpleString_Ex(&record, buffer, kSize) == 1)
+    texts.brief = Tidy(ToUtf8(buffer, language.code_page));
+  if (PatGetDetailString_Ex(&record, buffer, kSize) == 1)
+    texts.detail = Tidy(ToUtf8(buffer, language.code_page));
+  return texts;
+}
+
+Texts AskTexts(const PrnInfo& info, const Language& language, uint32_t dominant) {
+  const LANGID before = GetThreadUILanguage();
+  SetThreadUILanguage(language.id);
+  PrnInfo copy = info;  // the detail text is asked with a record that it may write to
+  char buffer[kSize] = "";
+  Texts texts;
+  if (PatGetSimpleString(&copy, buffer, kSize) == 1) texts.brief = Tidy(ToUtf8(buffer, CP_ACP));
+  if (PatGetDetailString(&copy, buffer, kSize) == 1) texts.detail = FlatDetail(buffer, dominant);
+  SetThreadUILanguage(before);
+  return texts;
+}
+
+std::string AskIcon(const PrnInfoEx& record) {
+  char name[17] = "";
+  return PatGetErrParts_Ex(&record, name) == 1 ? name : "";
+}
+
+std::string AskIcon(const PrnInfo& info) {
+  char name[17] = "";
+  return PatGetErrParts(&info, name) == 1 ? name : "";
+}
+
+StatusSample::StatusSample(uint32_t code, bool duplex) {
+  list.recordTag = PrnInfoExTag;
+  list.structSize = PrnInfoExSize;
+  list.online = 1;
+  list.printing = code == StatusPrinting;
+  list.noResponse = code == StatusNoResponse;
+  status_.nodeSize = sizeof status_;
+  status_.code = static_cast<uint16_t>(code);
+  // The library's own two codes come from flags; as listed codes they mean nothing.
+  if (code != StatusPrinting && code != StatusNoResponse) {
+    list.statusCount = 1;
+    list.statusList = &status_;
+  }
+  duplex_.nodeSize = sizeof duplex_;
+  duplex_.optionCode = OptionDuplex;
+  list.optionCount = duplex;
+  list.optionList = duplex ? &duplex_ : nullptr;
+
+  flat.structSize = PrnInfoSize;
+  flat.online = 1;
+  flat.statusCode = code;
+  flat.statusCount = 1;
+  flat.statusList[0] = code;
+  flat.printing = list.printing;
+  flat.noResponse = list.noResponse;
+  flat.hasDuplex = flat.duplexFlag = duplex;
+}
+
+}  // namespace stmon

@@ -1,0 +1,40 @@
+// What the library says about a record, in one language, as UTF-8.
+#pragma once
+
+#include <string>
+
+#include "language.h"
+#include "stmdata/stmdata.h"
+
+namespace stmon {
+
+struct Texts {
+  std::string brief;   // "No Paper"; empty where the language has no text
+  std::string detail;  // what to do, in lines without blanks around them
+};
+
+// `dominant` is the deciding status: the flat record's texts of toner statuses are in two code
+// pages.
+Texts AskTexts(const PrnInfoEx& record, const Language& language);
+Texts AskTexts(const PrnInfo& info, const Language& language, uint32_t dominant);
+
+// The name of the icon that shows the record's state: "ICO_ERR_PAPER".
+std::string AskIcon(const PrnInfoEx& record);
+std::string AskIcon(const PrnInfo& info);
+
+// One status alone, as both records would carry it: what the library says about the code itself.
+// The records point into the sample, which therefore stays where it is.
+struct StatusSample {
+  StatusSample(uint32_t code, bool duplex);
+  StatusSample(const StatusSample&) = delete;
+  StatusSample& operator=(const StatusSample&) = delete;
+
+  PrnInfoEx list{};
+  PrnInfo flat{};
+
+ private:
+  StatusNode status_{};
+  OptionNode duplex_{};
+};
+
+}  // namespace stmon
