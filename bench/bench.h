@@ -63,5 +63,6 @@ inline void Header(const char* area) {
 // ---- One function for each area, in a file of its own ----------------------------------------
 void BenchRecords();
 void BenchPrintManager();
+void BenchStatus();
 
 }  // namespace bench

@@ -3,4 +3,5 @@
 int main() {
   bench::BenchRecords();
   bench::BenchPrintManager();
+  bench::BenchStatus();
 }

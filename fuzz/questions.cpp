@@ -88,6 +88,16 @@ void Ask(const PrnInfoEx& info, const Numbers& n) {
   });
 }
 
+// Draws the latest part list, whichever record it came from.
+void Draw(uint32_t flags) {
+  static const HWND dialog = [] {
+    const HWND made = HostCreateDialog();
+    Require(HostAddPicture(made, 1, 170, 150) == 1);
+    return made;
+  }();
+  Require(PatDrawPrinterBitmap(dialog, 0, 1, flags, 0, 0) == 1);
+}
+
 void AskDeviceName(uint32_t device, uint32_t capacity) {
   const auto name = std::make_unique<char[]>(capacity);
   uint32_t size = capacity;
@@ -116,5 +126,6 @@ extern "C" int LLVMFuzzerTestOneInput(const uint8_t* data, size_t size) {
   fuzz::ListRecord record;
   record.Draw(source);
   Ask(record, numbers);
+  if (source.Below(16) == 15) Draw(source.Below(2) ? 0x101 : source.Word());
   return 0;
 }

@@ -12,7 +12,7 @@ cd "$(dirname "$0")/.."
 . tools/debian_root.sh
 
 root=${STMDATA_WINE_ROOT:-/var/cache/stmdata/wine-i386}
-packages=wine,wine32,xvfb,xauth,imagemagick,x11-utils,xdotool
+packages=wine,wine32,xvfb,xauth,imagemagick,x11-utils,xdotool,fonts-wine,fonts-vlgothic
 
 available() { may_enter_roots "a 32-bit Wine" "$root"; }
 make_root() { make_debian_root "$root" "32-bit Wine root" "about two minutes, 1.3 GB" 1030 "$packages"; }

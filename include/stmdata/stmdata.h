@@ -132,25 +132,6 @@ STM_API uint32_t STM_CALL PatGetError(void);
 STM_API uint32_t STM_CALL PatGetPrinterStatus(const PrnInfo* info, StatusRow* row);
 STM_API uint32_t STM_CALL PatGetPrinterStatus_Ex(const PrnInfoEx* info, StatusRow* row);
 
-/* ---- Network --------------------------------------------------------------------------------- */
-
-/* Fills the fields of `info` that one name list of the network layer tells; others stay.
-   mode    NetModeTrays: trayList, trayLevelList, their counts and currentTray; paper levels are per
-           cent, or 1 no paper and 41 tray missing.
-           NetModeBins: binList, binCount, currentBin, optionBits1 and optionBits2.
-           NetModeOptions: hasDuplex, option2Flag and option3Flag
-   list    entries keep their index; a null one leaves its pair as it was and is not counted, the
-           pairs after the last entry are cleared. Trays and bins beyond the 16th are not stored. A
-           null name is an unknown name, a null array an empty one. Names compare case-sensitively;
-           unknown trays become 0 (41 with flag 0x4), unknown bins and media 0, unknown options
-           nothing. `currentIndex` beyond the entries leaves the tray or bin in use as it was
-   Result  1 filled, 0 failed and `info` untouched; PatGetError: 2 `info` or `list` is null. An
-           unknown mode writes no error value */
-STM_API uint32_t STM_CALL PatGetInfoFromNet(PrnInfo* info, uint32_t mode, const NetInfoList* list);
-
-/* The status code for a status value of the network layer: the same value. */
-STM_API uint32_t STM_CALL PatGetStatusFromNet(uint32_t status);
-
 /* ---- Messages --------------------------------------------------------------------------------
    Texts for the user. The plain questions answer in the thread's language and the system's code
    page, the _Ex questions in the language of PatSetLocale and its code page (932 Japanese, 1250
@@ -243,6 +224,70 @@ STM_API uint32_t STM_CALL PatGetTrayName_Ex(const PrnInfoEx* info, uint32_t tray
 /* Kept for callers that ask; no argument is read. Result: 0, PatGetError stays. */
 STM_API uint32_t STM_CALL PatGetTrayRect(uint32_t info, uint32_t tray, uint32_t rect);
 STM_API uint32_t STM_CALL PatGetTrayRect_Ex(uint32_t info, uint32_t tray, uint32_t rect);
+
+/* ---- Picture ---------------------------------------------------------------------------------
+   A part list names the layers of the printer picture, in drawing order: part codes 1 to 67, each
+   the index of a part in PatGetPrnParts, then zeros. */
+
+/* Composes the picture that shows a record's statuses.
+   partCodes       receives the part list
+   extraPartCodes  is cleared and carries nothing
+   size            bytes that each list can take, at least 16; of more than 64, 64 are used and
+                   cleared. Codes that do not fit are dropped
+   Result  64 composed, whatever the size; 0 failed and both lists untouched; PatGetError:
+           1 null record, 5 `size` below 16 or a null list
+   _Ex     draws covers at the back and the duplex unit in a view from behind */
+STM_API uint32_t STM_CALL PatGetPrnBitmapEx(const PrnInfo* info, uint8_t* partCodes,
+                                            uint8_t* extraPartCodes, int32_t size);
+STM_API uint32_t STM_CALL PatGetPrnBitmapEx_Ex(const PrnInfoEx* info, uint8_t* partCodes,
+                                               uint8_t* extraPartCodes, int32_t size);
+
+/* The same into the two lists of `bitmap`, whose first field stays as it is.
+   Result  1 composed, 0 failed and `bitmap` untouched; PatGetError: 1 null record, 5 null `bitmap`
+   _Ex     as above */
+STM_API uint32_t STM_CALL PatGetPrnBitmap(const PrnInfo* info, PrnBitmap* bitmap);
+STM_API uint32_t STM_CALL PatGetPrnBitmap_Ex(const PrnInfoEx* info, PrnBitmap* bitmap);
+
+/* Draws the part list of the latest successful composition in the process, of either record kind
+   and by any thread (of a list of more than 16 codes the first 16), layer by layer into a control
+   of a dialog. Nothing is drawn before the first composition. Empty slots and codes above 67 are
+   skipped; a layer that cannot be loaded or a control that is not there costs nothing but itself.
+   Bitmaps are not scaled: the control's edges clip them.
+   dialog     the dialog's window; on Linux one from HostCreateDialog
+   controlId  identifier of the picture control in it
+   flags      0x1: each layer's second pass uses its ropSet instead of its ropClear;
+              0x100: the first pass is left out. Without it the first layer is copied, which lays
+              the ground, and the others are drawn with their ropSet. The printer's picture is
+              drawn with 0x1
+   reserved1, reserved2, reserved3  not read
+   Result     always 1. PatGetError becomes 2 when any layer was drawn
+   _Ex        the same */
+STM_API uint32_t STM_CALL PatDrawPrinterBitmap(HWND dialog, uint32_t reserved1, int32_t controlId,
+                                               uint32_t flags, uint32_t reserved2,
+                                               uint32_t reserved3);
+STM_API uint32_t STM_CALL PatDrawPrinterBitmap_Ex(HWND dialog, uint32_t reserved1,
+                                                  int32_t controlId, uint32_t flags,
+                                                  uint32_t reserved2, uint32_t reserved3);
+
+/* ---- Network --------------------------------------------------------------------------------- */
+
+/* Fills the fields of `info` that one name list of the network layer tells; others stay.
+   mode    NetModeTrays: trayList, trayLevelList, their counts and currentTray; paper levels are per
+           cent, or 1 no paper and 41 tray missing.
+           NetModeBins: binList, binCount, currentBin, optionBits1 and optionBits2.
+           NetModeOptions: hasDuplex, option2Flag and option3Flag
+   list    entries keep their index; a null one leaves its pair as it was and is not counted, the
+           pairs after the last entry are cleared. Trays and bins beyond the 16th are not stored. A
+           null name is an unknown name, a null array an empty one. Names compare case-sensitively;
+           unknown trays become 0 (41 with flag 0x4), unknown bins and media 0, unknown options
+           nothing. `currentIndex` beyond the entries leaves the tray or bin in use as it was
+   Result  1 filled, 0 failed and `info` untouched; PatGetError: 2 `info` or `list` is null. An
+           unknown mode writes no error value */
+STM_API uint32_t STM_CALL PatGetInfoFromNet(PrnInfo* info, uint32_t mode, const NetInfoList* list);
+
+/* The status code for a status value of the network layer: the same value. */
+STM_API uint32_t STM_CALL PatGetStatusFromNet(uint32_t status);
+
 /* ---- Print manager --------------------------------------------------------------------------- */
 
 /* Converts the selected groups of the print manager's record into `info`.
@@ -300,50 +345,6 @@ STM_API uint32_t STM_CALL bGetDesName(const char* key, char* desName, uint8_t* m
 /* Writes the library's six version words; the record's first field stays the caller's.
    Result  1, or 0 when `version` is null */
 STM_API uint32_t STM_CALL PatGetDllVersion(PatVersionInfo* version);
-
-/* ---- Picture ---------------------------------------------------------------------------------
-   A part list names the layers of the printer picture, in drawing order: part codes 1 to 67, each
-   the index of a part in PatGetPrnParts, then zeros. */
-
-/* Composes the picture that shows a record's statuses.
-   partCodes       receives the part list
-   extraPartCodes  is cleared and carries nothing
-   size            bytes that each list can take, at least 16; of more than 64, 64 are used and
-                   cleared. Codes that do not fit are dropped
-   Result  64 composed, whatever the size; 0 failed and both lists untouched; PatGetError:
-           1 null record, 5 `size` below 16 or a null list
-   _Ex     draws covers at the back and the duplex unit in a view from behind */
-STM_API uint32_t STM_CALL PatGetPrnBitmapEx(const PrnInfo* info, uint8_t* partCodes,
-                                            uint8_t* extraPartCodes, int32_t size);
-STM_API uint32_t STM_CALL PatGetPrnBitmapEx_Ex(const PrnInfoEx* info, uint8_t* partCodes,
-                                               uint8_t* extraPartCodes, int32_t size);
-
-/* The same into the two lists of `bitmap`, whose first field stays as it is.
-   Result  1 composed, 0 failed and `bitmap` untouched; PatGetError: 1 null record, 5 null `bitmap`
-   _Ex     as above */
-STM_API uint32_t STM_CALL PatGetPrnBitmap(const PrnInfo* info, PrnBitmap* bitmap);
-STM_API uint32_t STM_CALL PatGetPrnBitmap_Ex(const PrnInfoEx* info, PrnBitmap* bitmap);
-
-/* Draws the part list of the latest successful composition in the process, of either record kind
-   and by any thread (of a list of more than 16 codes the first 16), layer by layer into a control
-   of a dialog. Nothing is drawn before the first composition. Empty slots and codes above 67 are
-   skipped; a layer that cannot be loaded or a control that is not there costs nothing but itself.
-   Bitmaps are not scaled: the control's edges clip them.
-   dialog     the dialog's window; on Linux one from HostCreateDialog
-   controlId  identifier of the picture control in it
-   flags      0x1: each layer's second pass uses its ropSet instead of its ropClear;
-              0x100: the first pass is left out. Without it the first layer is copied, which lays
-              the ground, and the others are drawn with their ropSet. The printer's picture is
-              drawn with 0x1
-   reserved1, reserved2, reserved3  not read
-   Result     always 1. PatGetError becomes 2 when any layer was drawn
-   _Ex        the same */
-STM_API uint32_t STM_CALL PatDrawPrinterBitmap(HWND dialog, uint32_t reserved1, int32_t controlId,
-                                               uint32_t flags, uint32_t reserved2,
-                                               uint32_t reserved3);
-STM_API uint32_t STM_CALL PatDrawPrinterBitmap_Ex(HWND dialog, uint32_t reserved1,
-                                                  int32_t controlId, uint32_t flags,
-                                                  uint32_t reserved2, uint32_t reserved3);
 
 #ifdef __cplusplus
 } /* extern "C" */

@@ -122,7 +122,7 @@ constexpr int32_t kColourNameSize = 50;
 struct Suffix {
   char text[kSuffixSize];
   size_t length;
-  uint32_t codePage;
+  uint32_t (*codePage)();
 };
 
 // A name for which there is no room is left out whole.
@@ -143,7 +143,7 @@ uint32_t ColourOf(uint32_t tonerCode) {
 
 // A line of its own with a name for each code, in the order of the codes.
 Suffix FlatSuffix(const Statement& statement) {
-  Suffix suffix{{}, 0, kFlatNamesCodePage};
+  Suffix suffix{{}, 0, [] { return kFlatNamesCodePage; }};
   if (!IsTonerCode(statement.code)) return suffix;
   AddToSuffix(suffix, "\n");
   for (uint32_t i = 0; i < statement.count; ++i) {
@@ -155,7 +155,7 @@ Suffix FlatSuffix(const Statement& statement) {
 
 // Each colour once, in the order of the colours; the text before it ends its line itself.
 Suffix ListSuffix(const Statement& statement) {
-  Suffix suffix{{}, 0, ChosenCodePage()};
+  Suffix suffix{{}, 0, ChosenCodePage};
   bool flagged[kColours] = {};
   for (uint32_t i = 0; i < statement.count; ++i) {
     if (IsTonerCode(statement.codes[i])) flagged[ColourOf(statement.codes[i])] = true;
@@ -175,7 +175,7 @@ void AppendSuffix(const Suffix& suffix, const Target& target) {
   const size_t room = static_cast<size_t>(target.size) - length - 1;
   const size_t kept = suffix.length <= room
                           ? suffix.length
-                          : CountWholeCharacters(suffix.codePage, suffix.text, room);
+                          : CountWholeCharacters(suffix.codePage(), suffix.text, room);
   std::memcpy(target.buffer + length, suffix.text, kept);
   target.buffer[length + kept] = '\0';
 }

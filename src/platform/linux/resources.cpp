@@ -140,36 +140,32 @@ void ReadAsked(const char* name, AskedLabel* asked) {
   }
 }
 
-struct EntryRange {
-  const Entry* first;
-  const Entry* last;
-};
+// The first entry of the type and name whose language is `language` or comes after it, or null.
+const Entry* FindFrom(Entry asked, LANGID language) {
+  asked.language = language;
+  const Index& index = ResourceIndex();
+  const Entry* end = index.entries + index.count;
+  const Entry* entry = std::lower_bound(index.entries, end, asked, Before);
+  return entry != end && CompareNames(*entry, asked) == 0 ? entry : nullptr;
+}
 
-const Entry* FindLanguage(const EntryRange& range, LANGID language) {
-  for (const Entry* entry = range.first; entry < range.last; ++entry) {
-    if (entry->language == language) return entry;
+const Entry* FindOneOf(const Entry& asked, std::initializer_list<LANGID> languages) {
+  for (LANGID language : languages) {
+    const Entry* entry = FindFrom(asked, language);
+    if (entry && entry->language == language) return entry;
   }
   return nullptr;
 }
 
 // The languages to try, in order. A caller without a wish gets the thread's language, that of the
 // environment, English, and at last any; a caller with one gets it or a neutral one.
-const Entry* ChooseLanguage(const EntryRange& range, LANGID language) {
+const Entry* ChooseLanguage(const Entry& asked, LANGID language) {
   constexpr LANGID kPrimaryMask = 0x3FF;
-  const bool anyLanguage = (language & kPrimaryMask) == kNeutral;
-  const LANGID wanted[] = {
-      language,
-      static_cast<LANGID>(language & kPrimaryMask),
-      kNeutral,
-  };
-  for (LANGID one : wanted) {
-    if (const Entry* entry = FindLanguage(range, one)) return entry;
-  }
-  if (!anyLanguage) return nullptr;
-  for (LANGID one : {GetThreadUILanguage(), EnvironmentLanguage(), kEnglish}) {
-    if (const Entry* entry = FindLanguage(range, one)) return entry;
-  }
-  return range.first;
+  const auto primary = static_cast<LANGID>(language & kPrimaryMask);
+  if (primary != kNeutral) return FindOneOf(asked, {language, primary, kNeutral});
+  const Entry* entry =
+      FindOneOf(asked, {language, GetThreadUILanguage(), EnvironmentLanguage(), kEnglish});
+  return entry ? entry : FindFrom(asked, kNeutral);
 }
 
 HRSRC FailWith(DWORD systemError) {
@@ -198,13 +194,10 @@ HRSRC STM_CALL FindResourceExA(HINSTANCE, const char* type, const char* name, LA
   ReadAsked(name, &askedName);
   const Entry asked{askedType.label, askedName.label, 0, nullptr, 0};
 
-  const Index& index = ResourceIndex();
-  const Entry* end = index.entries + index.count;
-  const auto before = [](const Entry& l, const Entry& r) { return CompareNames(l, r) < 0; };
-  const auto found = std::equal_range(index.entries, end, asked, before);
-  if (found.first == found.second) return FailWith(ERROR_RESOURCE_NAME_NOT_FOUND);
-  const Entry* entry = ChooseLanguage({found.first, found.second}, language);
-  if (!entry) return FailWith(ERROR_RESOURCE_LANG_NOT_FOUND);
+  const Entry* entry = ChooseLanguage(asked, language);
+  if (!entry)
+    return FailWith(FindFrom(asked, 0) ? ERROR_RESOURCE_LANG_NOT_FOUND
+                                       : ERROR_RESOURCE_NAME_NOT_FOUND);
   return reinterpret_cast<HRSRC>(const_cast<Entry*>(entry));
 }
 

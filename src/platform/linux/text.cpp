@@ -1,6 +1,5 @@
 // Text in code pages, as the system's functions on Windows convert and load it. Where Windows takes
 // the system's ANSI code page, this takes the one of the thread's language.
-#include <cstdio>
 #include <cstring>
 
 #include "platform/linux/code_pages/code_page.h"
@@ -14,26 +13,27 @@ namespace {
 struct LanguagePage {
   uint8_t primaryLanguage;
   uint32_t codePage;
+  char digits[5];
 };
 
 constexpr LanguagePage kLanguagePages[] = {
-    {0x05, 1250},  // Czech
-    {0x0E, 1250},  // Hungarian
-    {0x15, 1250},  // Polish
-    {0x11, 932},   // Japanese
-    {0x00, 1252},  // closing row: every other language
+    {0x05, 1250, "1250"},  // Czech
+    {0x0E, 1250, "1250"},  // Hungarian
+    {0x15, 1250, "1250"},  // Polish
+    {0x11, 932, "932"},    // Japanese
+    {0x00, 1252, "1252"},  // closing row: every other language
 };
 
-uint32_t CodePageOfLanguage(LANGID language) {
+const LanguagePage& PageOfLanguage(LANGID language) {
   const uint32_t wanted = language == kNeutral ? GetThreadUILanguage() : language;
   const LanguagePage* row = kLanguagePages;
   while (row->primaryLanguage && row->primaryLanguage != (wanted & 0x3FF))
     ++row;
-  return row->codePage;
+  return *row;
 }
 
 const CodePage* ThreadCodePage() {
-  return FindCodePage(CodePageOfLanguage(kNeutral));
+  return FindCodePage(PageOfLanguage(kNeutral).codePage);
 }
 
 const CodePage* AskedCodePage(UINT number) {
@@ -146,9 +146,8 @@ char* STM_CALL CharUpperA(char* text) {
 
 int32_t STM_CALL GetLocaleInfoA(LCID locale, DWORD type, char* buffer, int32_t size) {
   if (type != LOCALE_IDEFAULTANSICODEPAGE) return stm::FailWith(ERROR_INVALID_FLAGS);
-  char digits[12];
-  const uint32_t codePage = stm::CodePageOfLanguage(static_cast<LANGID>(locale));
-  const int32_t needed = std::snprintf(digits, sizeof digits, "%u", codePage) + 1;
+  const char* digits = stm::PageOfLanguage(static_cast<LANGID>(locale)).digits;
+  const auto needed = static_cast<int32_t>(std::strlen(digits) + 1);
   if (size == 0) return needed;
   if (size < needed || !buffer) return stm::FailWith(ERROR_INSUFFICIENT_BUFFER);
   std::memcpy(buffer, digits, static_cast<size_t>(needed));

@@ -1,6 +1,7 @@
 #include "platform/linux/code_pages/code_page.h"
 
 #include <iterator>
+#include <string_view>
 
 #include "platform/linux/code_pages/tables.h"
 
@@ -38,16 +39,16 @@ constexpr void Learn(Plane& plane, uint16_t unit, uint32_t code) {
 
 // The first code that is read as a unit writes it, unless `fits` says otherwise.
 template <size_t Runs>
-constexpr Plane Invert(const char16_t* single, const char16_t* doubles,
+constexpr Plane Invert(const char16_t* single, std::u16string_view doubles,
                        const CodeRun (&fits)[Runs]) {
   Plane plane{};
   for (uint16_t& code : plane.codes)
     code = kDefaultCode;
   for (uint32_t byte = 0; byte < 0x100; ++byte) {
-    if (!doubles || !IsLeadByte932(byte)) Learn(plane, single[byte], byte);
+    if (doubles.empty() || !IsLeadByte932(byte)) Learn(plane, single[byte], byte);
   }
-  for (uint32_t lead = 0; doubles && lead < 0x100; ++lead) {
-    if (!IsLeadByte932(lead)) continue;
+  for (uint32_t lead = 0; lead < 0x100; ++lead) {
+    if (doubles.empty() || !IsLeadByte932(lead)) continue;
     for (uint32_t trail = kFirstTrail; trail <= kLastTrail; ++trail)
       Learn(plane, doubles[LeadRow(lead) * kTrails + trail - kFirstTrail], lead << 8 | trail);
   }
@@ -95,13 +96,13 @@ constexpr EncodeTable<Rows> Compact(const Plane& plane) {
 }
 
 constexpr Plane Plane932() {
-  return Invert(kSingle932, kDouble932, kFits932);
+  return Invert(kSingle932, {kDouble932, std::size(kDouble932) - 1}, kFits932);
 }
 constexpr Plane Plane1250() {
-  return Invert(kSingle1250, nullptr, kFits1250);
+  return Invert(kSingle1250, {}, kFits1250);
 }
 constexpr Plane Plane1252() {
-  return Invert(kSingle1252, nullptr, kFits1252);
+  return Invert(kSingle1252, {}, kFits1252);
 }
 
 constexpr auto kEncode932 = Compact<CountRows(Plane932())>(Plane932());

@@ -1,0 +1,136 @@
+#include "drawing.h"
+
+#include <algorithm>
+
+#include "printer_picture.h"
+
+namespace stmonw {
+namespace {
+
+constexpr int kIconSize = 32;   // pixels of the library's icons
+constexpr int kPaperSize = 12;  // of its paper pictures
+
+// What is drawn into `dc` between Begin and End appears at once.
+struct Canvas {
+  HDC dc;
+  RECT area;  // from 0, 0
+  HBITMAP bitmap;
+  HGDIOBJ before;
+};
+
+Canvas Begin(const DRAWITEMSTRUCT& item, HBRUSH ground) {
+  const RECT& place = item.rcItem;
+  Canvas canvas;
+  canvas.area = {0, 0, place.right - place.left, place.bottom - place.top};
+  canvas.dc = CreateCompatibleDC(item.hDC);
+  canvas.bitmap = CreateCompatibleBitmap(item.hDC, canvas.area.right, canvas.area.bottom);
+  canvas.before = SelectObject(canvas.dc, canvas.bitmap);
+  FillRect(canvas.dc, &canvas.area, ground);
+  SetBkMode(canvas.dc, TRANSPARENT);
+  return canvas;
+}
+
+void End(const Canvas& canvas, const DRAWITEMSTRUCT& item) {
+  BitBlt(item.hDC, item.rcItem.left, item.rcItem.top, canvas.area.right, canvas.area.bottom,
+         canvas.dc, 0, 0, SRCCOPY);
+  SelectObject(canvas.dc, canvas.before);
+  DeleteObject(canvas.bitmap);
+  DeleteDC(canvas.dc);
+}
+
+void Stretch(HDC to, const RECT& place, HBITMAP bitmap) {
+  BITMAP size;
+  if (!bitmap || GetObjectW(bitmap, sizeof size, &size) == 0) return;
+  HDC from = CreateCompatibleDC(to);
+  HGDIOBJ before = SelectObject(from, bitmap);
+  SetStretchBltMode(to, HALFTONE);
+  SetBrushOrgEx(to, 0, 0, nullptr);
+  StretchBlt(to, place.left, place.top, place.right - place.left, place.bottom - place.top, from, 0,
+             0, size.bmWidth, size.bmHeight, SRCCOPY);
+  SelectObject(from, before);
+  DeleteDC(from);
+}
+
+// A square of `size` in the middle of the height.
+RECT Square(const RECT& area, int left, int size) {
+  const int top = (area.bottom - size) / 2;
+  return {left, top, left + size, top + size};
+}
+
+void PutIcon(HDC dc, const RECT& place, const std::string& name) {
+  HICON icon = name.empty() ? nullptr : PatLoadIcon(name.c_str());
+  if (!icon) return;
+  DrawIconEx(dc, place.left, place.top, icon, place.right - place.left, place.bottom - place.top, 0,
+             nullptr, DI_NORMAL);
+}
+
+void PutWord(const Canvas& canvas, int left, int right, const std::wstring& text) {
+  RECT place = {left, 0, right, canvas.area.bottom};
+  DrawTextW(canvas.dc, text.c_str(), -1, &place,
+            DT_SINGLELINE | DT_VCENTER | DT_NOPREFIX | DT_END_ELLIPSIS);
+}
+
+}  // namespace
+
+int Scaled(int pixels) {
+  HDC screen = GetDC(nullptr);
+  const int dots = GetDeviceCaps(screen, LOGPIXELSX);
+  ReleaseDC(nullptr, screen);
+  return MulDiv(pixels, dots, 96);
+}
+
+void DrawPictureItem(const DRAWITEMSTRUCT& item, HBITMAP picture) {
+  const Canvas canvas = Begin(item, static_cast<HBRUSH>(GetStockObject(WHITE_BRUSH)));
+  Stretch(canvas.dc, canvas.area, picture);
+  End(canvas, item);
+}
+
+void DrawIconItem(const DRAWITEMSTRUCT& item, const std::string& icon) {
+  const Canvas canvas = Begin(item, GetSysColorBrush(COLOR_3DFACE));
+  PutIcon(canvas.dc, Square(canvas.area, 0, Scaled(kIconSize)), icon);
+  End(canvas, item);
+}
+
+void DrawTextItem(const DRAWITEMSTRUCT& item, const std::wstring& text, HFONT font) {
+  constexpr UINT kFormat = DT_WORDBREAK | DT_NOPREFIX | DT_EDITCONTROL | DT_END_ELLIPSIS;
+  const Canvas canvas = Begin(item, GetSysColorBrush(COLOR_3DFACE));
+  HGDIOBJ before = SelectObject(canvas.dc, font);
+  SetTextColor(canvas.dc, GetSysColor(COLOR_WINDOWTEXT));
+  RECT needed = canvas.area;
+  DrawTextW(canvas.dc, text.c_str(), -1, &needed, kFormat | DT_CALCRECT);
+  RECT place = canvas.area;
+  place.top = std::max<LONG>((canvas.area.bottom - needed.bottom) / 2, 0);
+  DrawTextW(canvas.dc, text.c_str(), -1, &place, kFormat);
+  SelectObject(canvas.dc, before);
+  End(canvas, item);
+}
+
+void DrawTrayItem(const DRAWITEMSTRUCT& item, const TrayLine& line, HFONT font) {
+  const bool selected = (item.itemState & ODS_SELECTED) != 0;
+  const Canvas canvas = Begin(item, GetSysColorBrush(selected ? COLOR_HIGHLIGHT : COLOR_WINDOW));
+  HGDIOBJ before = SelectObject(canvas.dc, font);
+  SetTextColor(canvas.dc, GetSysColor(selected ? COLOR_HIGHLIGHTTEXT : COLOR_WINDOWTEXT));
+
+  // Paper picture, name, paper, level icon, level.
+  const int width = canvas.area.right;
+  const int gap = Scaled(6);
+  const int name = gap + Scaled(kPaperSize) + gap;
+  const int paper = width * 48 / 100;
+  const int icon = width * 76 / 100;
+  const int level = icon + Scaled(kIconSize) + gap;
+  if (!line.paper_bitmap.empty()) {
+    HBITMAP bitmap = PatLoadBitmap(line.paper_bitmap.c_str());
+    Stretch(canvas.dc, Square(canvas.area, gap, Scaled(kPaperSize)), bitmap);
+    DeleteObject(bitmap);
+  }
+  PutWord(canvas, name, paper - gap, line.name);
+  PutWord(canvas, paper, icon - gap, line.paper);
+  PutIcon(canvas.dc, Square(canvas.area, icon, Scaled(kIconSize)), line.level_icon);
+  PutWord(canvas, level, width, line.level);
+
+  if (item.itemState & ODS_FOCUS) DrawFocusRect(canvas.dc, &canvas.area);
+  SelectObject(canvas.dc, before);
+  End(canvas, item);
+}
+
+}  // namespace stmonw

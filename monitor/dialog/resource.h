@@ -1,0 +1,21 @@
+// Identifiers of the dialog and its controls.
+#pragma once
+
+#define IDI_PROGRAM 1
+#define IDD_MONITOR 100
+#define IDC_STATIC 65535
+#define IDC_PRINTER 1001
+#define IDC_LANGUAGE 1002
+#define IDC_INTERVAL 1003
+#define IDC_INTERVAL_SPIN 1004
+#define IDC_PICTURE 1010
+#define IDC_STATE_ICON 1011
+#define IDC_SHORT 1012
+#define IDC_DETAIL 1013
+#define IDC_OTHERS 1014
+#define IDC_TRAYS_LABEL 1017
+#define IDC_OTHERS_LABEL 1018
+#define IDC_EQUIPMENT_LABEL 1019
+#define IDC_TRAYS 1015
+#define IDC_EQUIPMENT 1016
+#define IDC_CONNECTION 1020

@@ -1,0 +1,54 @@
+// What the window shows, made from the latest poll and the last good one. Nothing here knows of
+// controls.
+#pragma once
+
+#include <chrono>
+#include <optional>
+#include <string>
+#include <vector>
+
+#include "printer_texts.h"
+#include "snapshot.h"
+
+namespace stmonw {
+
+// What is known of the printer that is asked.
+struct Knowledge {
+  std::string source;                           // "192.0.2.10:9100"
+  std::chrono::system_clock::time_point since;  // when it was asked first
+  std::optional<stmon::Snapshot> latest;
+  std::optional<stmon::Snapshot> last_good;  // with a status block; kept while nothing answers
+};
+
+void Learn(Knowledge& knowledge, stmon::Snapshot snapshot);
+
+struct TrayLine {
+  std::wstring text;  // the whole line, for those who cannot see its columns
+  std::wstring name;
+  std::wstring paper;
+  std::wstring level;
+  std::string paper_bitmap;  // names of the library's resources, may be empty
+  std::string level_icon;
+  bool operator==(const TrayLine&) const = default;
+};
+
+struct View {
+  std::wstring short_text;
+  std::wstring detail;
+  std::string icon;
+  std::vector<std::wstring> others;  // conditions beside the one that decides
+  std::vector<TrayLine> trays;
+  std::vector<std::wstring> equipment;
+  bool stale = false;  // trays and equipment are of an earlier answer
+};
+
+View MakeView(const Knowledge& knowledge, const Language& language);
+
+// A shallow copy of the record that decides picture and texts: the last good one, marked when the
+// printer has ceased to answer. Lives no longer than `knowledge` stays as it is.
+PrnInfoEx ShownRecord(const Knowledge& knowledge);
+
+// "Answered at 14:03:22." or what is the trouble and how old the data are.
+std::wstring ConnectionText(const Knowledge& knowledge, std::chrono::system_clock::time_point now);
+
+}  // namespace stmonw
