@@ -45,6 +45,13 @@ for program in by-cmake/consumer ./by-pkg-config ./by-hand; do
   "$program" || fail "linux $program: exit status $?"
   readelf -d "$program" | grep -q 'NEEDED.*\[libstmdata\.so\.[0-9]*\]' || fail "linux $program: no versioned name"
 done
+unset LD_LIBRARY_PATH  # the examples find the library by the place that the CMake package tells
+cmake -S tree/share/doc/stmdata/examples -B examples -DCMAKE_C_FLAGS=-m32 -DCMAKE_CXX_FLAGS=-m32 \
+  -DCMAKE_PREFIX_PATH="$work/linux/tree" >cmake.log
+cmake --build examples >>cmake.log || { cat cmake.log; exit 1; }
+for program in examples/example_*; do
+  "$program" >/dev/null || fail "linux $program: exit status $?"
+done
 ! cmake -S . -B for-64-bit -DCMAKE_PREFIX_PATH="$work/linux/tree" >/dev/null 2>for-64-bit.log ||
   fail "linux: the CMake package lets a 64-bit project in"
 grep -q '(32bit)' for-64-bit.log || { cat for-64-bit.log; fail "linux: a 64-bit project is not told why"; }
@@ -71,7 +78,6 @@ for program in by-*.exe; do
 done
 
 cd "$here"
-unset LD_LIBRARY_PATH
 if reason=$(tools/wine.sh available 2>&1); then
   tools/wine.sh run sh -c 'cd build/install-check/windows && for program in by-*.exe; do
     wine "$program" || { echo "windows $program: exit status $?"; exit 1; }; done'
