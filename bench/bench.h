@@ -64,5 +64,6 @@ inline void Header(const char* area) {
 void BenchRecords();
 void BenchPrintManager();
 void BenchStatus();
+void BenchPicture();
 
 }  // namespace bench

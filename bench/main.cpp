@@ -4,4 +4,5 @@ int main() {
   bench::BenchRecords();
   bench::BenchPrintManager();
   bench::BenchStatus();
+  bench::BenchPicture();
 }

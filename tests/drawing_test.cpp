@@ -135,7 +135,7 @@ const Picture kPictures[] = {
     {"output full", 34, 3},
     {"top cover", 36, 3},
     {"front cover", 37, 1},
-    {"all toners, cut at 16 layers", 38, 3},
+    {"all toners", 38, 3},
     {"service", 40, 1},
     {"unit", 42, 1},
     {"misfeed", 44, 3},
