@@ -9,6 +9,8 @@ namespace {
 using test::PictureDialog;
 using test::Pixels;
 
+const auto kSkipped = doctest::skip(!test::HasWindows());
+
 constexpr uint32_t kSetPasses = 0x1;
 constexpr uint32_t kSecondOnly = 0x100;
 constexpr uint32_t kGround = 0x005A3C96;  // what a control shows before it is drawn to
@@ -218,7 +220,7 @@ TEST_CASE("an image layer has no black where its mask has none") {
   }
 }
 
-TEST_CASE("pictures are drawn as a plain loop over their pixels draws them") {
+TEST_CASE("pictures are drawn as a plain loop over their pixels draws them" * kSkipped) {
   for (const Picture& picture : kPictures) {
     for (uint32_t flags : {0u, kSetPasses, kSecondOnly, kSetPasses | kSecondOnly, 0xFFFFFEFEu}) {
       CAPTURE(picture.name);
@@ -234,7 +236,7 @@ TEST_CASE("pictures are drawn as a plain loop over their pixels draws them") {
   }
 }
 
-TEST_CASE("the control's edges clip the picture") {
+TEST_CASE("the control's edges clip the picture" * kSkipped) {
   const PrnBitmap list = Compose(kPictures[1]);
   for (const auto& [width, height] : {std::pair{1, 1}, {100, 60}, {400, 199}, {319, 260}}) {
     CAPTURE(width);
@@ -247,7 +249,7 @@ TEST_CASE("the control's edges clip the picture") {
   }
 }
 
-TEST_CASE("the latest successful composition is what is drawn") {
+TEST_CASE("the latest successful composition is what is drawn" * kSkipped) {
   const PrnBitmap list = Compose(kPictures[11]);
   PrnBitmap failed{};
   CHECK(PatGetPrnBitmap(nullptr, &failed) == 0);
@@ -272,7 +274,7 @@ TEST_CASE("the latest successful composition is what is drawn") {
   CHECK(dialog.read() == DrawPlainly("", cut, ground, kSetPasses).back().pixels);
 }
 
-TEST_CASE("an empty list, no dialog and no control leave nothing behind") {
+TEST_CASE("an empty list, no dialog and no control leave nothing behind" * kSkipped) {
   PictureDialog dialog(320, 200, kGround);
   const Pixels before = dialog.read();
   Compose(kPictures[0]);

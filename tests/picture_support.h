@@ -54,6 +54,17 @@ inline void CopyPixels(HDC context, Pixels& pixels, bool write) {
 }
 #endif
 
+// Windows need a display there; tests that draw into one are skipped where there is none.
+inline bool HasWindows() {
+#ifdef _WIN32
+  const HWND window =
+      CreateWindowA("STATIC", "", WS_POPUP, 0, 0, 1, 1, nullptr, nullptr, nullptr, nullptr);
+  return window && DestroyWindow(window);
+#else
+  return true;
+#endif
+}
+
 class PictureDialog {
  public:
   static constexpr int32_t kControl = 1009;
@@ -64,7 +75,7 @@ class PictureDialog {
 #ifdef _WIN32
     handle_ = CreateWindowA("STATIC", "", WS_POPUP | WS_VISIBLE, 0, 0, width, height, nullptr,
                             nullptr, nullptr, nullptr);
-    REQUIRE_MESSAGE(handle_, "a window needs a display");
+    REQUIRE(handle_);
     CreateWindowA("STATIC", "", WS_CHILD | WS_VISIBLE, 0, 0, width, height, handle_,
                   reinterpret_cast<HMENU>(kControl), nullptr, nullptr);
 #else
