@@ -253,6 +253,18 @@ TEST_CASE("counts that a caller made up never lead past a chain") {
   }
 }
 
+TEST_CASE("a version text from the print manager has room for the reply's") {
+  const PMModelInfo model = {nullptr, "1", STM_ABSENT};
+  PMPrnInfo manager{};
+  manager.modelInfo = &model;
+  test::Record record;
+  REQUIRE(PatSetPMPrnInfoToPrnInfo(&record, &manager, GroupModelInfo) == 1);
+  const std::string before = record.versionText1;
+  test::Parse(record, "\x1BV\rA\r3.1415\rB\r2.7182\n");
+  CHECK(before == "1");
+  CHECK(record.versionText1 == std::string("3.1415"));
+}
+
 TEST_CASE("a call that cannot walk leaves the record alone") {
   test::Record record;
   test::Parse(record, kReplies[0].replies[0]);

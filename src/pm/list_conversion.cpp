@@ -4,17 +4,19 @@
 #include "platform/windows_api.h"
 #include "pm/derivation.h"
 #include "pm/name_tables.h"
+#include "records/configuration_blocks.h"
 #include "records/item_list.h"
 #include "stmdata/stmdata.h"
 
 namespace stm {
 namespace {
 
-// Strings of any length are taken whole. The new block is filled before the old one goes, so that
-// a caller may hand in the record's own string.
+// Strings of any length are taken whole, short ones with room for a reply's version text. The new
+// block is filled before the old one goes, so that a caller may hand in the record's own string.
 void ReplaceText(char** field, const char* text) {
   const size_t bytes = std::strlen(text) + 1;
-  auto* block = static_cast<char*>(GlobalAlloc(GPTR, static_cast<uint32_t>(bytes)));
+  const size_t room = bytes < kVersionBytes ? kVersionBytes : bytes;
+  auto* block = static_cast<char*>(GlobalAlloc(GPTR, static_cast<uint32_t>(room)));
   if (block) std::memcpy(block, text, bytes);
   GlobalFree(*field);
   *field = block;

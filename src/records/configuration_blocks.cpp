@@ -10,7 +10,6 @@ namespace stm {
 namespace {
 
 constexpr uint32_t kVersionLimit = 8;
-constexpr uint32_t kVersionBytes = 7;  // six characters and the zero byte
 
 void SkipLabel(Input& fields) {
   ReadField(fields, kVersionLimit, kCarriageReturn);

@@ -9,6 +9,10 @@
 
 namespace stm {
 
+// A version text's block: six characters and the zero byte. Who fills such a text from elsewhere
+// gives it this much at least, since a reply writes over what is there.
+constexpr uint32_t kVersionBytes = 7;
+
 // Each parses a block, its end left out, into `record`.
 void ParseVersionBlock(const Input& block, PrnInfoEx* record);
 void ParseNumberBlock(const Input& block, PrnInfoEx* record);
