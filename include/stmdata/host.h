@@ -117,6 +117,7 @@ STM_HOST_API uint32_t* STM_CALL HostPicturePixels(HWND dialog, int32_t controlId
 
 /* Releases a dialog with its controls. Result: 1, or 0 when there is no such dialog. */
 STM_HOST_API BOOL STM_CALL HostDestroyDialog(HWND dialog);
+
 /* ---- Language --------------------------------------------------------------------------------
    A language id is (sublanguage << 10) | primary language. The thread's language is that of the
    environment (LC_ALL, LC_MESSAGES, LANG, the first one set) until the thread sets another. The

@@ -79,7 +79,8 @@ STM_API uint32_t STM_CALL CreateQueryCommand(uint32_t groups, char* buffer, uint
    reply   `length` bytes; none past them is read. The walk ends at the length, at a zero byte where
            a block should begin, at an unknown letter, and at a block that the reply cuts off
    length  bytes; 0 or less reads nothing
-   Result  1 walked, 0 null record or the reply does not begin with ESC (the record is untouched).
+   Result  1 walked, also for a length of 0 or less; 0 null record or reply, or the reply does not
+           begin with ESC (the record is untouched).
    A block's list that cannot be allocated becomes empty. A version text that the record holds
    already must have room for 6 characters: it is written over. */
 STM_API uint32_t STM_CALL SetPrnInfoExFromReadbackCmd(PrnInfoEx* record, const char* reply,
@@ -128,7 +129,7 @@ STM_API uint32_t STM_CALL PatGetError(void);
    made and service calls 49 to 64 have no row.
    Result  1 copied, 0 failed and `row` untouched; PatGetError: 1 no row for the code, 2 `info` or
            `row` is null
-   _Ex     takes the first listed status; 1 also for an empty status list */
+   _Ex     takes the first listed status; PatGetError is 1 also when none is listed */
 STM_API uint32_t STM_CALL PatGetPrinterStatus(const PrnInfo* info, StatusRow* row);
 STM_API uint32_t STM_CALL PatGetPrinterStatus_Ex(const PrnInfoEx* info, StatusRow* row);
 
@@ -142,19 +143,21 @@ STM_API uint32_t STM_CALL PatGetPrinterStatus_Ex(const PrnInfoEx* info, StatusRo
            at all. A text that the language lacks is 3 for the plain question and "" with result 1
            for the _Ex one. */
 
-/* The status line, such as "No Paper", of the dominant status. An offline printer in a mild state
-   says that it is offline.
-   _Ex     says so whenever the printer is offline without an error, whatever is listed */
+/* The status line, such as "No Paper": of the dominant status when several are listed, else of
+   `statusCode`, unless the printer does not respond, or prints in a mild state (code 23 or less).
+   An offline printer in a mild state says that it is offline.
+   _Ex     always of the dominant status; says offline whenever the printer is offline without an
+           error, whatever is listed */
 STM_API uint32_t STM_CALL PatGetSimpleString(const PrnInfo* info, char* buffer, int32_t size);
 STM_API uint32_t STM_CALL PatGetSimpleString_Ex(const PrnInfoEx* info, char* buffer, int32_t size);
 
-/* What to do about it. A ready printer with a missing or empty tray (the bypass tray excepted) is
-   told to have one, even offline. Toner states end with a line of the colours concerned, in code
-   page 932 and as often as they are listed.
-   info    with statusCount 1, statusList[0] becomes the code that was chosen
-   _Ex     does not write to the record; offline comes before the trays, the bypass tray counts, a
-           duplex unit in the way is told of (result 1 even when that text is not to be had), and
-           each colour is named once, in the language, on the text's last line */
+/* What to do about it, of the status chosen as for the status line. A ready printer with a missing
+   tray, or an empty one other than the bypass tray, is told to have one, even offline. Toner states
+   end with a line of the colours concerned, in code page 932 and as often as they are listed. info
+   with statusCount 1, statusList[0] becomes the code that was chosen _Ex     does not write to the
+   record; offline comes before the trays, the bypass tray counts, a duplex unit in the way is told
+   of (result 1 even when that text is not to be had), and each colour is named once, in the
+   language, on the text's last line */
 STM_API uint32_t STM_CALL PatGetDetailString(PrnInfo* info, char* buffer, uint32_t size);
 STM_API uint32_t STM_CALL PatGetDetailString_Ex(const PrnInfoEx* info, char* buffer, int32_t size);
 
@@ -171,8 +174,8 @@ STM_API uint32_t STM_CALL PatGetHelpContext_Ex(uint32_t first, uint32_t second, 
 
 /* ---- Icons and parts ------------------------------------------------------------------------- */
 
-/* Writes the name of the icon that shows the record's state; unless the name begins with BMP_,
-   PatLoadIcon knows it, ICO_ERR_POWEROFF excepted, which is the caller's to resolve, too.
+/* Writes the name of the icon that shows the record's state. PatLoadIcon knows it, except
+   BMP_ERR_CAUTION and ICO_ERR_POWEROFF, which are the caller's to resolve.
    buffer  at least 17 bytes; always terminated
    Result  1 written. 0: nothing written; PatGetError: 2 `info` or `buffer` is null
    A code without an icon gives BMP_ERR_CAUTION; an offline printer in a mild state ICO_OFFLINE. A

@@ -10,21 +10,21 @@ struct MaskRow {
   uint16_t code;
 };
 
-constexpr MaskRow kOutputMasks[] = {
+constexpr MaskRow kMasksO[] = {
     {0x1, 5}, {0x2, 6}, {0x4, 9}, {0x8, 10}, {0x10, 14}, {0, 0},
 };
-constexpr MaskRow kBinMasks[] = {
+constexpr MaskRow kMasksB[] = {
     {0x1, 7},
     {0x2, 15},
     {0x4, 13},
     {0, 0},
 };
-constexpr MaskRow kFinisherMasks[] = {
+constexpr MaskRow kMasksF[] = {
     {0x1, 11},  // stapler
     {0x2, 12},  // puncher
     {0, 0},
 };
-constexpr MaskRow kTrayMasks[] = {
+constexpr MaskRow kMasksT[] = {
     {0x1, 16},   {0x2, 17},   {0x4, 104},  {0x8, 103}, {0x10, 101},
     {0x20, 102}, {0x40, 105}, {0x80, 106}, {0, 0},
 };
@@ -43,10 +43,10 @@ constexpr OptionRow kOptionLetters[] = {
     {'H', OptionKind::Code, 3, nullptr},                      //
     {'M', OptionKind::Code, 3, nullptr},                      //
     {'A', OptionKind::Code, 4, nullptr},                      //
-    {'O', OptionKind::CodePerMask, 0, kOutputMasks},          //
-    {'B', OptionKind::CodePerMask, 0, kBinMasks},             //
-    {'F', OptionKind::CodePerMask, 0, kFinisherMasks},        // finisher
-    {'T', OptionKind::CodePerMask, 0, kTrayMasks},            //
+    {'O', OptionKind::CodePerMask, 0, kMasksO},               //
+    {'B', OptionKind::CodePerMask, 0, kMasksB},               //
+    {'F', OptionKind::CodePerMask, 0, kMasksF},               // finisher
+    {'T', OptionKind::CodePerMask, 0, kMasksT},               //
 };
 
 const OptionRow* FindOptionRow(char letter) {

@@ -65,7 +65,7 @@ inline constexpr NameCode kPaperSizes[] = {
     {"28", 26},    // HLT
     {"29", 27},    // HLT rotated
     {"39", 28},    // not named, rotated
-    {"48", 29},    // not named (likewise to 123)
+    {"48", 29},    // not named (likewise where nothing is said)
     {"61", 30},    //
     {"73", 31},    //
     {"75", 32},    //

@@ -13,7 +13,7 @@ struct IconRow {
 
 inline constexpr IconRow kErrPartsTable[] = {
     //  code  icon
-    {0, "ICO_ONLINE"},          // ready, but offline
+    {0, "ICO_ONLINE"},          // ready
     {102, "ICO_ERR_POWEROFF"},  // no response
     {4, "ICO_ONLINE"},          // toner nearly empty
     {5, "ICO_ONLINE"},          // fuser cleaner nearly due
@@ -59,7 +59,7 @@ inline constexpr IconRow kErrPartsTable[] = {
     {85, "ICO_ONLINE"},         // unit R1 nearly due
     {86, "ICO_ONLINE"},         // unit R2 nearly due
     {87, "ICO_ONLINE"},         // unit R3 nearly due
-    {88, "ICO_ONLINE"},         // closing row: every code
+    {88, "ICO_ONLINE"},         // unit D1 nearly due
     {89, "ICO_ERR_CAUTION"},    // cover behind a tray open
     {90, "ICO_ERR_CAUTION"},    // cover behind a tray open
     {91, "ICO_ERR_CAUTION"},    // duplex unit cover open
@@ -74,7 +74,7 @@ inline constexpr IconRow kErrPartsTable[] = {
 };
 static_assert(sizeof kErrPartsTable / sizeof kErrPartsTable[0] == 58);
 
-// Whatever the status, unless it is graver than this icon.
+// For an offline printer whose code is at most kLastMildCode.
 inline constexpr char kOfflineIcon[] = "ICO_OFFLINE";
 
 struct LevelIcon {

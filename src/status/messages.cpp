@@ -50,8 +50,7 @@ uint32_t MessageOf(const MessageRow (&table)[Rows], uint32_t code) {
   return row->messageId;
 }
 
-// ---- The status to talk about
-// --------------------------------------------------------------------
+// ---- The status to talk about -------------------------------------------------------------------
 
 struct Statement {
   uint32_t code;  // codes[0], or 0
@@ -113,8 +112,7 @@ uint32_t TellShort(const Statement& statement, const Target& target) {
   return Tell(statement.load, RowOf(statement).simpleId, target);
 }
 
-// ---- Toner colours
-// -------------------------------------------------------------------------------
+// ---- Toner colours ------------------------------------------------------------------------------
 
 constexpr size_t kSuffixSize = 52;
 constexpr int32_t kColourNameSize = 50;
@@ -199,8 +197,7 @@ uint32_t TellDetail(const Statement& statement, const Suffix& suffix, const Targ
   return 1;
 }
 
-// ---- Trays
-// ---------------------------------------------------------------------------------------
+// ---- Trays --------------------------------------------------------------------------------------
 
 bool HasMissingTray(TrayView trays) {
   for (Tray tray; TakeTray(&trays, &tray);) {
@@ -245,8 +242,7 @@ uint32_t CheckEmptyTray_Ex(const PrnInfoEx& info, const Target& target) {
                                                        : 0;
 }
 
-// ---- Details and recovery
-// ------------------------------------------------------------------------
+// ---- Details and recovery -----------------------------------------------------------------------
 
 uint32_t DuplexMessage(const PrnInfoEx& info, uint32_t code) {
   return FindItem(info.optionList, OptionDuplex) ? MessageOf(kDuplexMessages, code) : 0;

@@ -69,8 +69,8 @@ inline constexpr PriorityRow kPriorityTable[] = {
     {41, 0, 85},  // unit R1 nearly due
     {42, 0, 86},  // unit R2 nearly due
     {43, 0, 87},  // unit R3 nearly due
-    {44, 0, 88},  // closing row: every code
-    {45, 0, 0},   // ready, but offline
+    {44, 0, 88},  // unit D1 nearly due
+    {45, 0, 0},   // ready
     {100, 0, 0},  // closing row: nothing listed has a row, the answer is code 0
 };
 
