@@ -1,6 +1,7 @@
 #include "platform/linux/dib.h"
 
 #include <algorithm>
+#include <cstring>
 
 namespace stm {
 namespace {
@@ -40,12 +41,12 @@ constexpr uint32_t kMissing = 256;
 
 struct Painter {
   Frame frame;
-  int64_t offsetX;  // of the bitmap's left edge in the frame
-  int64_t offsetY;
-  int64_t left;  // what is painted, in the frame's coordinates
-  int64_t top;
-  int64_t right;
-  int64_t bottom;
+  int32_t offsetX;  // of the bitmap's left edge in the frame
+  int32_t offsetY;
+  int32_t left;  // what is painted, in the frame's coordinates
+  int32_t top;
+  int32_t right;
+  int32_t bottom;
   uint32_t truth;
   Stroke strokes[kMissing + 1];
 };
@@ -59,25 +60,37 @@ struct Line {
 };
 
 Line LineAt(const Dib& dib, const Painter& painter, int32_t line) {
-  const int64_t y = painter.offsetY + (dib.topDown ? line : dib.height - 1 - line);
+  const int32_t y = painter.offsetY + (dib.topDown ? line : dib.height - 1 - line);
   if (y < painter.top || y >= painter.bottom) return {nullptr, 0, 0};
   return {painter.frame.pixels + y * painter.frame.width + painter.left,
-          static_cast<int32_t>(painter.left - painter.offsetX),
-          static_cast<int32_t>(painter.right - painter.offsetX)};
+          painter.left - painter.offsetX, painter.right - painter.offsetX};
 }
 
 void Brush(uint32_t* pixel, const Stroke& stroke) {
   *pixel = (*pixel & stroke.keep) ^ stroke.flip;
 }
 
+bool ChangesNothing(const Stroke& stroke) {
+  return stroke.keep == kColorMask && stroke.flip == 0;
+}
+
+// Sixteen bytes at a time: most of a picture's pixels are written here.
+void Fill(uint32_t* pixel, uint32_t* end, uint32_t color) {
+  const uint32_t block[4] = {color, color, color, color};
+  for (; end - pixel >= 4; pixel += 4)
+    std::memcpy(pixel, block, sizeof block);
+  for (; pixel != end; ++pixel)
+    *pixel = color;
+}
+
 // Most runs of a layer change nothing or replace what is there.
 void PaintRun(const Line& line, int32_t x, int32_t count, const Stroke& stroke) {
-  if (stroke.keep == kColorMask && stroke.flip == 0) return;
+  if (ChangesNothing(stroke)) return;
   const int32_t begin = std::max(x, line.begin) - line.begin;
   const int32_t end = std::min(x + count, line.end) - line.begin;
   if (begin >= end) return;
   if (stroke.keep == 0) {
-    std::fill(line.pixels + begin, line.pixels + end, stroke.flip);
+    Fill(line.pixels + begin, line.pixels + end, stroke.flip);
   } else {
     for (uint32_t* pixel = line.pixels + begin; pixel != line.pixels + end; ++pixel)
       Brush(pixel, stroke);
@@ -186,7 +199,7 @@ void PaintRle(const Dib& dib, const Painter& painter) {
       const Stroke& even = painter.strokes[bits == 4 ? value >> 4 : value];
       const Stroke& odd = painter.strokes[bits == 4 ? value & 15 : value];
       if (&even == &odd) {
-        PaintRun(at.line, at.x, shown, even);
+        if (!ChangesNothing(even)) PaintRun(at.line, at.x, shown, even);
       } else {
         PaintPair(at.line, at.x, shown, even, odd);
       }
@@ -252,18 +265,25 @@ bool PaintDib(const Dib& dib, const Frame& frame, const Placement& to, uint32_t 
   const uint32_t truth = rop >> 16 & 15;
   if ((rop >> 20 & 15) != truth) return false;
 
+  const int64_t offsetX = static_cast<int64_t>(to.x) - to.sourceX;
+  const int64_t offsetY = static_cast<int64_t>(to.y) - to.sourceY;
+  const int64_t left = std::max<int64_t>({0, to.x, offsetX});
+  const int64_t top = std::max<int64_t>({0, to.y, offsetY});
+  const int64_t right =
+      std::min<int64_t>({frame.width, static_cast<int64_t>(to.x) + to.width, offsetX + dib.width});
+  const int64_t bottom = std::min<int64_t>(
+      {frame.height, static_cast<int64_t>(to.y) + to.height, offsetY + dib.height});
+  if (left >= right || top >= bottom) return true;
+
+  // What is visible lies within the frame, and the bitmap no further off than its own size.
   Painter painter;
   painter.frame = frame;
-  painter.offsetX = static_cast<int64_t>(to.x) - to.sourceX;
-  painter.offsetY = static_cast<int64_t>(to.y) - to.sourceY;
-  painter.left = std::max<int64_t>({0, to.x, painter.offsetX});
-  painter.top = std::max<int64_t>({0, to.y, painter.offsetY});
-  painter.right = std::min<int64_t>(
-      {frame.width, static_cast<int64_t>(to.x) + to.width, painter.offsetX + dib.width});
-  painter.bottom = std::min<int64_t>(
-      {frame.height, static_cast<int64_t>(to.y) + to.height, painter.offsetY + dib.height});
-  if (painter.left >= painter.right || painter.top >= painter.bottom) return true;
-
+  painter.offsetX = static_cast<int32_t>(offsetX);
+  painter.offsetY = static_cast<int32_t>(offsetY);
+  painter.left = static_cast<int32_t>(left);
+  painter.top = static_cast<int32_t>(top);
+  painter.right = static_cast<int32_t>(right);
+  painter.bottom = static_cast<int32_t>(bottom);
   painter.truth = truth;
   painter.strokes[kMissing] = StrokeOf(truth, 0);
   const uint32_t selectable = dib.bitsPerPixel == 24 ? 0 : 1u << dib.bitsPerPixel;
