@@ -2,6 +2,7 @@
 
 #include <cerrno>
 #include <cstdio>
+#include <cstdlib>
 #include <cstring>
 #include <filesystem>
 #include <fstream>
@@ -15,6 +16,7 @@
 // after windows.h
 #include <shellapi.h>
 #else
+#include <sys/ioctl.h>
 #include <unistd.h>
 #endif
 
@@ -132,6 +134,37 @@ std::string WriteWholeFile(const std::string& name, std::string_view bytes) {
   if (!why.empty()) std::filesystem::remove(beside, error);
   return why;
 }
+
+std::string MakeFolder(const std::string& name) {
+  std::error_code error;
+  std::filesystem::create_directories(Path(name), error);
+  if (error) return error.message();
+  return std::filesystem::is_directory(Path(name), error) ? "" : "not a folder";
+}
+
+#ifdef _WIN32
+Terminal OutputTerminal() {
+  const HANDLE output = GetStdHandle(STD_OUTPUT_HANDLE);
+  DWORD mode = 0;
+  CONSOLE_SCREEN_BUFFER_INFO info{};
+  constexpr DWORD kEscapes = 0x0004;  // ENABLE_VIRTUAL_TERMINAL_PROCESSING
+  if (!GetConsoleMode(output, &mode) || !GetConsoleScreenBufferInfo(output, &info)) return {};
+  if (!SetConsoleMode(output, mode | kEscapes)) return {};
+  return {info.srWindow.Right - info.srWindow.Left + 1, true};
+}
+#else
+Terminal OutputTerminal() {
+  const char* kind = std::getenv("TERM");
+  const char* colours = std::getenv("COLORTERM");
+  const char* none = std::getenv("NO_COLOR");
+  if (!isatty(STDOUT_FILENO) || !kind || std::string_view(kind) == "dumb" || (none && *none))
+    return {};
+  winsize size{};
+  const bool sized = ioctl(STDOUT_FILENO, TIOCGWINSZ, &size) == 0 && size.ws_col > 0;
+  const std::string_view depth = colours ? colours : "";
+  return {sized ? size.ws_col : 80, depth == "truecolor" || depth == "24bit"};
+}
+#endif
 
 void Print(std::string_view text) {
   std::fwrite(text.data(), 1, text.size(), stdout);

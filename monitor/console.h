@@ -22,6 +22,16 @@ std::string ReadWholeFile(const std::string& name, size_t most, std::string& byt
 // half of it. Result: empty, or why it could not be written.
 std::string WriteWholeFile(const std::string& name, std::string_view bytes);
 
+// Makes a folder, or finds it there. Result: empty, or why it is not.
+std::string MakeFolder(const std::string& name);
+
+// What the terminal behind standard output can show.
+struct Terminal {
+  int columns = 0;           // 0: no terminal, or one without colours
+  bool true_colour = false;  // 24 bits
+};
+Terminal OutputTerminal();
+
 // Writes to standard output or standard error and flushes.
 void Print(std::string_view text);
 void Complain(std::string_view text);

@@ -5,7 +5,9 @@
 #include "CLI/CLI.hpp"
 #include "catalogue.h"
 #include "console.h"
+#include "gallery.h"
 #include "options.h"
+#include "picture.h"
 #include "reports.h"
 #include "safe_text.h"
 #include "simulated_printer.h"
@@ -60,6 +62,12 @@ void Describe(CLI::App& app, Options& options) {
       app.add_option("--watch", options.watch, "poll on and print what changes, until ended")
           ->option_text("SECONDS")
           ->check(CLI::Range(0.1, 86400.0));
+  app.add_option("--picture", options.picture_file,
+                 "write the printer's picture; '-' shows it in a terminal with colours")
+      ->option_text("FILE.png|-");
+  app.add_option("--gallery", options.gallery,
+                 "write pictures, icons and texts of every status, and a page that shows them")
+      ->option_text("DIR");
   app.add_option("--metrics", options.metrics_file, "write the state as Prometheus text")
       ->option_text("FILE");
   app.add_option("--timeout", options.timeout, "for the whole poll, default 5")
@@ -177,6 +185,32 @@ bool WriteFiles(const Options& options, const Snapshot& snapshot,
   return wrong.empty() && trouble.empty();
 }
 
+// Result: the picture could be shown, or there is nothing to show.
+bool ShowPicture(const Options& options, const Snapshot& snapshot) {
+  if (options.picture_file.empty() || !snapshot.told) return true;
+  const Image image = snapshot.source.kind == RecordKind::Flat ? DrawPicture(*snapshot.flat)
+                                                               : DrawPicture(*snapshot.record);
+  if (image.pixels.empty()) {
+    Fail("the picture could not be drawn.");
+    return false;
+  }
+  if (options.picture_file == "-") {
+    const Terminal terminal = OutputTerminal();
+    if (terminal.columns > 0) {
+      Print(HalfBlocks(image, std::min(terminal.columns, 100), terminal.true_colour));
+      return true;
+    }
+    Fail(
+        "--picture -: standard output is no terminal with colours; --picture FILE.png writes a "
+        "file.");
+    return false;
+  }
+  const std::string trouble = WriteWholeFile(options.picture_file, EncodePng(image));
+  if (trouble.empty()) return true;
+  Fail("cannot write " + CleanUtf8(options.picture_file) + ": " + trouble + ".");
+  return false;
+}
+
 bool IsGood(const Snapshot& snapshot) {
   return snapshot.told && snapshot.exchange.outcome == Outcome::Answered;
 }
@@ -191,9 +225,10 @@ int Report(const Options& options, const Snapshot& snapshot) {
   } else if (snapshot.told || snapshot.identity) {
     Print(TextReport(snapshot, all_languages));
   }
+  const bool drawn = ShowPicture(options, snapshot);
   if (options.raw) Print((options.json ? "" : "\n") + RawReport(snapshot));
   if (!snapshot.trouble.empty()) Fail(CleanUtf8(snapshot.source.name + ": " + snapshot.trouble));
-  return written ? static_cast<int>(snapshot.verdict) : kTrouble;
+  return written && drawn ? static_cast<int>(snapshot.verdict) : kTrouble;
 }
 
 // Polls until the process is ended from outside. One query at a time;
@@ -267,6 +302,14 @@ int PrintCatalogue(const Options& options) {
   return 0;
 }
 
+int MakeGallery(const Options& options) {
+  const std::string wrong = WriteGallery(
+      options.gallery, [](const std::string& line) { Complain("stmon: " + line + "\n"); });
+  if (!wrong.empty()) return Fail("cannot write " + CleanUtf8(wrong) + ".");
+  Print("Look at " + CleanUtf8(options.gallery) + "/index.html.\n");
+  return 0;
+}
+
 int Run(const Options& options) {
   const bool all = options.language == "all" || options.language.empty();
   if (!all && !FindLanguage(options.language)) {
@@ -274,6 +317,7 @@ int Run(const Options& options) {
                 "all.");
   }
   if (options.catalogue) return PrintCatalogue(options);
+  if (!options.gallery.empty()) return MakeGallery(options);
   if (options.scenario == "list") return ListScenarios();
   if (OnlyDeviceId(options)) return ShowDeviceId(options);
   Scenario scenario;

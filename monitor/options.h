@@ -12,6 +12,8 @@ struct Options {
   std::string record = "list";  // or "flat"
   std::string language;         // code, "all", or empty: that of the user's locale
   std::string save_file;        // where to keep the reply
+  std::string picture_file;     // where to write the picture, '-' the terminal
+  std::string gallery;          // folder for the pictures of every status
   std::string metrics_file;     // where to write the metrics
   std::string scenario;         // empty: ready
   std::string simulate;         // port to be a simulated printer at

@@ -1,6 +1,8 @@
 #include "texts.h"
 
+#include <algorithm>
 #include <cstring>
+#include <iterator>
 
 namespace stmon {
 namespace {
@@ -75,7 +77,7 @@ std::string AskIcon(const PrnInfo& info) {
   return PatGetErrParts(&info, name) == 1 ? name : "";
 }
 
-StatusSample::StatusSample(uint32_t code, bool duplex) {
+StatusSample::StatusSample(uint32_t code, bool duplex, uint32_t trays) {
   list.recordTag = PrnInfoExTag;
   list.structSize = PrnInfoExSize;
   list.online = 1;
@@ -101,6 +103,22 @@ StatusSample::StatusSample(uint32_t code, bool duplex) {
   flat.printing = list.printing;
   flat.noResponse = list.noResponse;
   flat.hasDuplex = flat.duplexFlag = duplex;
+
+  constexpr uint16_t kFirstTray = 3, kA4 = 8, kFull = 100;
+  trays = std::min<uint32_t>(trays, std::size(trays_));
+  for (uint32_t i = 0; i < trays; ++i) {
+    TrayNode& node = trays_[i];
+    node.nodeSize = sizeof node;
+    node.trayId = static_cast<uint16_t>(kFirstTray + i);
+    node.paperCode = kA4;
+    node.paperLevel = kFull;
+    node.next = i + 1 < trays ? &trays_[i + 1] : nullptr;
+    flat.trayList[i] = {node.trayId, kA4};
+    flat.trayLevelList[i] = {node.trayId, kFull};
+  }
+  list.trayList = trays > 0 ? trays_ : nullptr;
+  list.trayCount = flat.trayCount = flat.trayLevelCount = trays;
+  if (trays > 0) list.currentTray = flat.currentTray = kFirstTray;
 }
 
 }  // namespace stmon

@@ -25,7 +25,7 @@ std::string AskIcon(const PrnInfo& info);
 // One status alone, as both records would carry it: what the library says about the code itself.
 // The records point into the sample, which therefore stays where it is.
 struct StatusSample {
-  StatusSample(uint32_t code, bool duplex);
+  StatusSample(uint32_t code, bool duplex, uint32_t trays = 0);  // trays 1 to 3, filled with A4
   StatusSample(const StatusSample&) = delete;
   StatusSample& operator=(const StatusSample&) = delete;
 
@@ -35,6 +35,7 @@ struct StatusSample {
  private:
   StatusNode status_{};
   OptionNode duplex_{};
+  TrayNode trays_[3]{};
 };
 
 }  // namespace stmon
