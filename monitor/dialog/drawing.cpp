@@ -9,6 +9,8 @@ namespace {
 
 constexpr int kIconSize = 32;   // pixels of the library's icons
 constexpr int kPaperSize = 12;  // of its paper pictures
+constexpr int kLineMargin = 3;  // pixels
+constexpr UINT kWrapped = DT_WORDBREAK | DT_NOPREFIX;
 
 // What is drawn into `dc` between Begin and End appears at once.
 struct Canvas {
@@ -36,6 +38,19 @@ void End(const Canvas& canvas, const DRAWITEMSTRUCT& item) {
   SelectObject(canvas.dc, canvas.before);
   DeleteObject(canvas.bitmap);
   DeleteDC(canvas.dc);
+}
+
+// A line of a list in its colours.
+Canvas BeginLine(const DRAWITEMSTRUCT& item) {
+  const bool selected = (item.itemState & ODS_SELECTED) != 0;
+  const Canvas canvas = Begin(item, GetSysColorBrush(selected ? COLOR_HIGHLIGHT : COLOR_WINDOW));
+  SetTextColor(canvas.dc, GetSysColor(selected ? COLOR_HIGHLIGHTTEXT : COLOR_WINDOWTEXT));
+  return canvas;
+}
+
+void EndLine(const Canvas& canvas, const DRAWITEMSTRUCT& item) {
+  if (item.itemState & ODS_FOCUS) DrawFocusRect(canvas.dc, &canvas.area);
+  End(canvas, item);
 }
 
 void Stretch(HDC to, const RECT& place, HBITMAP bitmap) {
@@ -105,18 +120,38 @@ void DrawTextItem(const DRAWITEMSTRUCT& item, const std::wstring& text, HFONT fo
   End(canvas, item);
 }
 
-void DrawTrayItem(const DRAWITEMSTRUCT& item, const TrayLine& line, HFONT font) {
-  const bool selected = (item.itemState & ODS_SELECTED) != 0;
-  const Canvas canvas = Begin(item, GetSysColorBrush(selected ? COLOR_HIGHLIGHT : COLOR_WINDOW));
-  HGDIOBJ before = SelectObject(canvas.dc, font);
-  SetTextColor(canvas.dc, GetSysColor(selected ? COLOR_HIGHLIGHTTEXT : COLOR_WINDOWTEXT));
+int WrappedHeight(HWND list, const std::wstring& text, HFONT font) {
+  RECT area;
+  GetClientRect(list, &area);
+  // The scroll bar may come with a later line.
+  area.right -= GetSystemMetrics(SM_CXVSCROLL) + 2 * Scaled(kLineMargin);
+  HDC dc = GetDC(list);
+  HGDIOBJ before = SelectObject(dc, font);
+  const int height = DrawTextW(dc, text.c_str(), -1, &area, kWrapped | DT_CALCRECT);
+  SelectObject(dc, before);
+  ReleaseDC(list, dc);
+  return height + Scaled(kLineMargin);
+}
 
+void DrawWrappedItem(const DRAWITEMSTRUCT& item, const std::wstring& text, HFONT font) {
+  const Canvas canvas = BeginLine(item);
+  HGDIOBJ before = SelectObject(canvas.dc, font);
+  RECT place = canvas.area;
+  InflateRect(&place, -Scaled(kLineMargin), 0);
+  DrawTextW(canvas.dc, text.c_str(), -1, &place, kWrapped);
+  SelectObject(canvas.dc, before);
+  EndLine(canvas, item);
+}
+
+void DrawTrayItem(const DRAWITEMSTRUCT& item, const TrayLine& line, HFONT font) {
+  const Canvas canvas = BeginLine(item);
+  HGDIOBJ before = SelectObject(canvas.dc, font);
   // Paper picture, name, paper, level icon, level.
   const int width = canvas.area.right;
   const int gap = Scaled(6);
   const int name = gap + Scaled(kPaperSize) + gap;
-  const int paper = width * 48 / 100;
-  const int icon = width * 76 / 100;
+  const int paper = width * 46 / 100;
+  const int icon = width * 71 / 100;
   const int level = icon + Scaled(kIconSize) + gap;
   if (!line.paper_bitmap.empty()) {
     HBITMAP bitmap = PatLoadBitmap(line.paper_bitmap.c_str());
@@ -124,13 +159,12 @@ void DrawTrayItem(const DRAWITEMSTRUCT& item, const TrayLine& line, HFONT font) 
     DeleteObject(bitmap);
   }
   PutWord(canvas, name, paper - gap, line.name);
-  PutWord(canvas, paper, icon - gap, line.paper);
+  PutWord(canvas, paper, line.level.empty() ? width : icon - gap, line.paper);
   PutIcon(canvas.dc, Square(canvas.area, icon, Scaled(kIconSize)), line.level_icon);
   PutWord(canvas, level, width, line.level);
 
-  if (item.itemState & ODS_FOCUS) DrawFocusRect(canvas.dc, &canvas.area);
   SelectObject(canvas.dc, before);
-  End(canvas, item);
+  EndLine(canvas, item);
 }
 
 }  // namespace stmonw

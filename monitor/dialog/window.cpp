@@ -144,22 +144,6 @@ void FillList(const Window& window, int id, const std::vector<std::wstring>& lin
   InvalidateRect(list, nullptr, TRUE);
 }
 
-// A long line can be scrolled to its end.
-void SetExtent(const Window& window, int id, const std::vector<std::wstring>& lines) {
-  HDC dc = GetDC(Item(window, id));
-  HGDIOBJ before = SelectObject(dc, window.text_font);
-  LONG widest = 0;
-  for (const std::wstring& line : lines) {
-    SIZE size{};
-    GetTextExtentPoint32W(dc, line.c_str(), static_cast<int>(line.size()), &size);
-    widest = std::max(widest, size.cx);
-  }
-  SelectObject(dc, before);
-  ReleaseDC(Item(window, id), dc);
-  SendMessageW(Item(window, id), LB_SETHORIZONTALEXTENT, static_cast<WPARAM>(widest + Scaled(6)),
-               0);
-}
-
 void ShowConnection(Window& window) {
   window.connection = ConnectionText(window.knowledge, std::chrono::system_clock::now());
   SetText(window, IDC_CONNECTION, window.connection);
@@ -182,10 +166,7 @@ void Show(Window& window) {
   SetText(window, IDC_SHORT, now.short_text);
   SetText(window, IDC_PICTURE, now.short_text);  // for those who cannot see it
   SetText(window, IDC_DETAIL, now.detail);
-  if (now.others != view.others) {
-    FillList(window, IDC_OTHERS, now.others);
-    SetExtent(window, IDC_OTHERS, now.others);
-  }
+  if (now.others != view.others) FillList(window, IDC_OTHERS, now.others);
   if (now.trays != view.trays) {
     std::vector<std::wstring> lines;
     for (const TrayLine& tray : now.trays)
@@ -375,11 +356,22 @@ void OnDrawItem(const Window& window, const DRAWITEMSTRUCT& item) {
       DrawTextItem(item, window.connection,
                    reinterpret_cast<HFONT>(SendMessageW(window.dialog, WM_GETFONT, 0, 0)));
       break;
+    case IDC_OTHERS:
+      if (item.itemID < window.view.others.size())
+        DrawWrappedItem(item, window.view.others[item.itemID], window.text_font);
+      break;
     case IDC_TRAYS:
       if (item.itemID < window.view.trays.size())
         DrawTrayItem(item, window.view.trays[item.itemID], window.text_font);
       break;
   }
+}
+
+bool OnMeasureItem(const Window& window, MEASUREITEMSTRUCT& item) {
+  if (item.CtlID != IDC_OTHERS || item.itemID >= window.view.others.size()) return false;
+  item.itemHeight = static_cast<UINT>(
+      WrappedHeight(Item(window, IDC_OTHERS), window.view.others[item.itemID], window.text_font));
+  return true;
 }
 
 void OnDestroy(Window& window) {
@@ -416,6 +408,8 @@ INT_PTR CALLBACK DialogProcedure(HWND dialog, UINT message, WPARAM wparam, LPARA
     case WM_DRAWITEM:
       OnDrawItem(*window, *reinterpret_cast<const DRAWITEMSTRUCT*>(lparam));
       return TRUE;
+    case WM_MEASUREITEM:
+      return OnMeasureItem(*window, *reinterpret_cast<MEASUREITEMSTRUCT*>(lparam));
     case WM_CLOSE:
       DestroyWindow(dialog);
       return TRUE;
