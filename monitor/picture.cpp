@@ -55,10 +55,14 @@ Image DrawPicture(const PrnInfo& info) {
   return DrawParts(bitmap);
 }
 
+std::string ExistingIcon(const std::string& name) {
+  if (name == "ICO_ERR_POWEROFF") return "ICO_OFFLINE";
+  if (name == "BMP_ERR_CAUTION") return "ICO_ERR_CAUTION";
+  return name;
+}
+
 Image DrawIcon(const std::string& name) {
-  if (name == "ICO_ERR_POWEROFF") return ReadIcon("ICO_OFFLINE");
-  if (name == "BMP_ERR_CAUTION") return ReadIcon("ICO_ERR_CAUTION");
-  return ReadIcon(name.c_str());
+  return ReadIcon(ExistingIcon(name).c_str());
 }
 
 std::string HalfBlocks(const Image& image, int columns, bool true_colour) {

@@ -19,8 +19,11 @@ struct Image {
 Image DrawPicture(const PrnInfoEx& record);
 Image DrawPicture(const PrnInfo& info);
 
-// By the name that the library gave. The two names that it has no icon for get the nearest one:
-// offline for a printer without power, caution for a code without an icon.
+// The two names that the library gives and has no icon for become the nearest one: offline for a
+// printer without power, caution for a code without an icon.
+std::string ExistingIcon(const std::string& name);
+
+// By the name that the library gave.
 Image DrawIcon(const std::string& name);
 
 std::string EncodePng(const Image& image);

@@ -58,7 +58,7 @@ std::string Parse(CommandLine& line, int& status) {
   stmonw::Settings& settings = line.settings;
   settings.interval = std::chrono::seconds(line.interval);
   settings.language =
-      line.language.empty() ? &stmonw::UserLanguage() : stmonw::FindLanguage(line.language);
+      line.language.empty() ? &stmon::UserLanguage() : stmon::FindLanguage(line.language);
   if (!settings.language)
     return "--lang " + line.language + ": EN DE FR IT ES NL SV DA NO CS HU PT PL FI JP are known.";
   stmon::Target target;

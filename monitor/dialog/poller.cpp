@@ -6,11 +6,12 @@
 #include <thread>
 #include <utility>
 
+#include "watch.h"
+
 namespace stmonw {
 namespace {
 
 constexpr std::chrono::milliseconds kTimeout(5000);  // for one query
-constexpr std::chrono::seconds kSlowestRetry(30);    // while nothing answers
 constexpr std::chrono::seconds kShortestInterval(1);
 
 }  // namespace
@@ -32,16 +33,8 @@ struct Poller {
 
 namespace {
 
-// Doubled for each failure in a row: a printer that is off must not be knocked at all day long.
-std::chrono::seconds Pause(std::chrono::seconds interval, int failures) {
-  auto pause = interval;
-  for (int i = 1; i < failures && pause < kSlowestRetry; ++i)
-    pause *= 2;
-  return failures > 0 ? std::max(interval, std::min(pause, kSlowestRetry)) : interval;
-}
-
 void Run(const std::shared_ptr<Poller>& poller) {
-  int failures = 0;
+  stmon::Watch watch;  // of which the count of failures alone is used
   std::unique_lock lock(poller->mutex);
   while (!poller->stopped) {
     poller->asked = false;
@@ -50,12 +43,12 @@ void Run(const std::shared_ptr<Poller>& poller) {
     const auto end = std::chrono::steady_clock::now();
     lock.lock();
     if (poller->stopped) break;
-    failures = exchange.outcome == stmon::Outcome::Answered ? 0 : std::min(failures + 1, 100);
+    watch.failures = exchange.outcome == stmon::Outcome::Answered ? 0 : watch.failures + 1;
     poller->answer = std::move(exchange);
     PostMessageW(poller->window, poller->message, 0, 0);
     // The interval may change while we wait.
     while (!poller->stopped && !poller->asked) {
-      const auto next = end + Pause(poller->interval, failures);
+      const auto next = end + stmon::NextWait(watch, poller->interval);
       if (poller->changed.wait_until(lock, next) == std::cv_status::timeout) break;
     }
   }

@@ -3,7 +3,9 @@
 #include <algorithm>
 
 #include "labels.h"
+#include "picture.h"
 #include "safe_text.h"
+#include "watch.h"
 
 namespace stmonw {
 namespace {
@@ -16,53 +18,32 @@ bool Responds(const Knowledge& knowledge) {
   return knowledge.latest && knowledge.latest->told;
 }
 
-// The library's icons for what it has no icon of that name.
-std::string ExistingIcon(const std::string& name) {
-  if (name == "ICO_ERR_POWEROFF") return "ICO_OFFLINE";
-  if (name == "BMP_ERR_CAUTION") return "ICO_ERR_CAUTION";
-  return name;
-}
-
-std::wstring OneLine(const std::wstring& text) {
-  std::wstring line;
+std::wstring WithCrLf(const std::wstring& text) {
+  std::wstring lines;
   for (const wchar_t unit : text) {
-    if (unit == L'\r') continue;
-    const bool blank = unit == L'\n' || unit == L' ';
-    if (!blank || (!line.empty() && line.back() != L' ')) line += blank ? L' ' : unit;
+    if (unit == L'\n') lines += L'\r';
+    lines += unit;
   }
-  return line;
+  return lines;
 }
 
-std::wstring CodeText(uint32_t code) {
-  const stmon::Reason& reason = stmon::ReasonOf(code);
-  return Wide(std::string(reason.keyword) + " (code " + std::to_string(code) + ")");
-}
-
-// The detail text names all that share it: the toners of one kind.
-bool Decides(const stmon::Snapshot& snapshot, const stmon::Condition& condition) {
-  for (const stmon::Condition& other : snapshot.conditions) {
-    const auto& codes = snapshot.dominant;
-    if (std::find(codes.begin(), codes.end(), other.code) == codes.end()) continue;
-    if (other.code == condition.code) return true;
-    if (other.known && condition.known && other.row.detailId == condition.row.detailId) return true;
-  }
-  return false;
-}
-
-std::vector<std::wstring> OtherConditions(const stmon::Snapshot& snapshot, const PrnInfoEx& record,
-                                          const Language& language) {
+// Offline hides what would decide otherwise.
+std::vector<std::wstring> OtherConditions(const stmon::Snapshot& snapshot) {
   const bool offline = !snapshot.online && !snapshot.has_error;
+  const auto& dominant = snapshot.dominant;
   std::vector<std::wstring> others;
   for (const stmon::Condition& condition : snapshot.conditions) {
-    if (condition.code == 0 || (!offline && Decides(snapshot, condition))) continue;
-    std::wstring text = OneLine(DetailTextOf(record, condition.code, language));
-    if (text.empty()) text = ShortTextOf(record, condition.code, language);
-    others.push_back(condition.known && !text.empty() ? text : CodeText(condition.code));
+    const bool decides =
+        std::find(dominant.begin(), dominant.end(), condition.code) != dominant.end();
+    if (condition.code == 0 || (decides && !offline)) continue;
+    std::string text = condition.texts.detail;
+    std::replace(text.begin(), text.end(), '\n', ' ');
+    others.push_back(Wide(text.empty() ? stmon::ConditionText(condition) : text));
   }
   return others;
 }
 
-TrayLine LineOf(const stmon::Tray& tray, bool in_use, const Language& language) {
+TrayLine LineOf(const stmon::Tray& tray, bool in_use, const stmon::Language& language) {
   TrayLine line;
   line.name = TrayName(tray.id, language);
   if (in_use) line.name += kInUse;
@@ -79,7 +60,8 @@ TrayLine LineOf(const stmon::Tray& tray, bool in_use, const Language& language) 
   return line;
 }
 
-std::vector<std::wstring> Equipment(const stmon::Snapshot& snapshot, const Language& language) {
+std::vector<std::wstring> Equipment(const stmon::Snapshot& snapshot,
+                                    const stmon::Language& language) {
   std::vector<std::wstring> lines;
   if (snapshot.options) {
     for (const stmon::Option& option : *snapshot.options) {
@@ -87,8 +69,7 @@ std::vector<std::wstring> Equipment(const stmon::Snapshot& snapshot, const Langu
     }
   }
   for (const stmon::Bin& bin : snapshot.bins) {
-    const std::string name = bin.id == BinUnknown ? "unknown" : std::to_string(bin.id);
-    lines.push_back(Wide("Output bin " + name));
+    lines.push_back(Wide(stmon::BinLabel(bin.id)));
     if (snapshot.current_bin == bin.id) lines.back() += kInUse;
   }
   if (snapshot.language) lines.push_back(Wide(stmon::LanguageLabel(*snapshot.language)));
@@ -115,11 +96,9 @@ std::wstring ClockText(std::chrono::system_clock::time_point when) {
 }
 
 std::wstring AgeText(std::chrono::system_clock::duration age) {
-  const auto seconds =
-      std::max<int64_t>(std::chrono::duration_cast<std::chrono::seconds>(age).count(), 0);
-  if (seconds < 120) return std::to_wstring(seconds) + L" s";
-  if (seconds < 7200) return std::to_wstring(seconds / 60) + L" min";
-  return std::to_wstring(seconds / 3600) + L" h";
+  const auto shown = std::max(age, std::chrono::system_clock::duration::zero());
+  return Wide(
+      stmon::AgeText(std::chrono::duration_cast<std::chrono::steady_clock::duration>(shown)));
 }
 
 // The first sentence tells what happened; the rest is advice for a command line.
@@ -146,26 +125,39 @@ PrnInfoEx ShownRecord(const Knowledge& knowledge) {
   return record;
 }
 
-View MakeView(const Knowledge& knowledge, const Language& language) {
+void Translate(Knowledge& knowledge, const stmon::Language& language) {
+  for (auto* snapshot : {&knowledge.latest, &knowledge.last_good}) {
+    if (!*snapshot) continue;
+    const auto when = (*snapshot)->when;
+    stmon::Source source = (*snapshot)->source;
+    source.language = &language;
+    *snapshot = stmon::ReadExchange(std::move(source), std::move((*snapshot)->exchange));
+    (*snapshot)->when = when;
+  }
+}
+
+View MakeView(const Knowledge& knowledge, const stmon::Language& language) {
   View view;
-  const PrnInfoEx record = ShownRecord(knowledge);
   if (!knowledge.latest) {
     view.short_text = L"Connecting...";
     view.icon = "ICO_WARMUP";
     return view;
   }
-  char icon[32] = "";
-  PatGetErrParts_Ex(&record, icon);
-  view.icon = ExistingIcon(icon);
-  view.short_text = ShortText(record, language);
-  view.detail = DetailText(record, language);
-  view.stale = !Responds(knowledge);
+  if (Responds(knowledge)) {
+    const stmon::Snapshot& latest = *knowledge.latest;
+    view.short_text = Wide(stmon::StatusText(latest));
+    view.detail = WithCrLf(Wide(latest.texts.detail));
+    view.icon = stmon::ExistingIcon(latest.icon);
+    view.others = OtherConditions(latest);
+  } else {
+    const PrnInfoEx record = ShownRecord(knowledge);
+    const stmon::Texts texts = stmon::AskTexts(record, language);
+    view.short_text = Wide(texts.brief);
+    view.detail = WithCrLf(Wide(texts.detail));
+    view.icon = stmon::ExistingIcon(stmon::AskIcon(record));
+  }
   if (!knowledge.last_good) return view;
-
   const stmon::Snapshot& good = *knowledge.last_good;
-  if (view.short_text.empty() && !good.dominant.empty())
-    view.short_text = CodeText(good.dominant[0]);
-  if (!view.stale) view.others = OtherConditions(good, record, language);
   for (const stmon::Tray& tray : good.trays)
     view.trays.push_back(LineOf(tray, good.current_tray == tray.id, language));
   view.equipment = Equipment(good, language);

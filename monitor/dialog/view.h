@@ -7,7 +7,7 @@
 #include <string>
 #include <vector>
 
-#include "printer_texts.h"
+#include "names.h"
 #include "snapshot.h"
 
 namespace stmonw {
@@ -21,6 +21,9 @@ struct Knowledge {
 };
 
 void Learn(Knowledge& knowledge, stmon::Snapshot snapshot);
+
+// Reads again what is known, for its texts in another language.
+void Translate(Knowledge& knowledge, const stmon::Language& language);
 
 struct TrayLine {
   std::wstring text;  // the whole line, for those who cannot see its columns
@@ -39,10 +42,9 @@ struct View {
   std::vector<std::wstring> others;  // conditions beside the one that decides
   std::vector<TrayLine> trays;
   std::vector<std::wstring> equipment;
-  bool stale = false;  // trays and equipment are of an earlier answer
 };
 
-View MakeView(const Knowledge& knowledge, const Language& language);
+View MakeView(const Knowledge& knowledge, const stmon::Language& language);
 
 // A shallow copy of the record that decides picture and texts: the last good one, marked when the
 // printer has ceased to answer. Lives no longer than `knowledge` stays as it is.

@@ -56,15 +56,6 @@ std::wstring ItemText(const Window& window, int id) {
   return text;
 }
 
-std::string Utf8(const std::wstring& wide) {
-  const int units = static_cast<int>(wide.size());
-  const int size =
-      WideCharToMultiByte(CP_UTF8, 0, wide.data(), units, nullptr, 0, nullptr, nullptr);
-  std::string text(static_cast<size_t>(std::max(size, 0)), '\0');
-  WideCharToMultiByte(CP_UTF8, 0, wide.data(), units, text.data(), size, nullptr, nullptr);
-  return text;
-}
-
 // ---- Fonts and places -------------------------------------------------------------------------
 
 // Asking for the character set makes the system choose a font that has the language's letters, also
@@ -73,7 +64,7 @@ void MakeFonts(Window& window) {
   LOGFONTW font{};
   GetObjectW(reinterpret_cast<HFONT>(SendMessageW(window.dialog, WM_GETFONT, 0, 0)), sizeof font,
              &font);
-  if (window.settings.language->id == 1041) {
+  if (IsJapanese(*window.settings.language)) {
     font.lfCharSet = SHIFTJIS_CHARSET;
     lstrcpynW(font.lfFaceName, L"MS UI Gothic", LF_FACESIZE);
     font.lfHeight = MulDiv(font.lfHeight, 9, 8);
@@ -255,6 +246,7 @@ void TakeAnswers(Window& window) {
   stmon::Source source;
   source.name = window.knowledge.source;
   source.query = window.query;
+  source.language = window.settings.language;
   Learn(window.knowledge, stmon::ReadExchange(source, std::move(*exchange)));
   Show(window);
 }
@@ -273,10 +265,12 @@ void FillChoices(const Window& window) {
                                                      : Wide(settings.printer))
                                .c_str());
   HWND languages = Item(window, IDC_LANGUAGE);
-  for (const Language* row = kLanguages; row->code; ++row) {
-    SendMessageW(languages, CB_ADDSTRING, 0, reinterpret_cast<LPARAM>(row->name));
+  for (const stmon::Language* row = stmon::kLanguages; row->code; ++row) {
+    // The code is for fonts that lack the letters of the name.
+    const std::wstring line = Wide(std::string(row->name) + " (" + row->code + ")");
+    SendMessageW(languages, CB_ADDSTRING, 0, reinterpret_cast<LPARAM>(line.c_str()));
     if (row == settings.language)
-      SendMessageW(languages, CB_SETCURSEL, static_cast<WPARAM>(row - kLanguages), 0);
+      SendMessageW(languages, CB_SETCURSEL, static_cast<WPARAM>(row - stmon::kLanguages), 0);
   }
   SendMessageW(Item(window, IDC_INTERVAL_SPIN), UDM_SETRANGE32, kShortestInterval,
                kLongestInterval);
@@ -299,8 +293,9 @@ void OnInit(Window& window) {
 void OnLanguage(Window& window) {
   const LRESULT row = SendMessageW(Item(window, IDC_LANGUAGE), CB_GETCURSEL, 0, 0);
   if (row == CB_ERR) return;
-  window.settings.language = &kLanguages[row];
+  window.settings.language = &stmon::kLanguages[row];
   MakeFonts(window);
+  Translate(window.knowledge, *window.settings.language);
   Show(window);
   InvalidateRect(Item(window, IDC_SHORT), nullptr, FALSE);  // another font, perhaps the same text
   InvalidateRect(Item(window, IDC_CONNECTION), nullptr, FALSE);

@@ -6,14 +6,14 @@
 #include <chrono>
 #include <string>
 
-#include "printer_texts.h"
+#include "language.h"
 
 namespace stmonw {
 
 struct Settings {
   std::string printer;             // HOST[:PORT]; empty: the built-in simulated printer
   std::string scenario = "ready";  // of the simulated printer
-  const Language* language = nullptr;
+  const stmon::Language* language = nullptr;
   std::chrono::seconds interval{5};
 };
 
