@@ -11,6 +11,15 @@
 
 namespace {
 
+// Windows need a display there.
+bool HasWindows() {
+  const HWND window =
+      CreateWindowA("STATIC", "", WS_POPUP, 0, 0, 1, 1, nullptr, nullptr, nullptr, nullptr);
+  return window && DestroyWindow(window);
+}
+
+const auto kSkipped = doctest::skip(!HasWindows());
+
 constexpr std::chrono::seconds kPatience(20);  // a slow machine; nothing waits longer than it must
 
 template <class Condition>
@@ -115,7 +124,7 @@ int DrawnPixels(const Program& program) {
 
 }  // namespace
 
-TEST_CASE("the window tells a printer's state, its absence and its return") {
+TEST_CASE("the window tells a printer's state, its absence and its return" * kSkipped) {
   auto printer = StartPrinterWith("status 71,69,81\ntray 1 6 75\ntray 2 -1 0\noption F 3\n", 0);
   const uint16_t port = stmon::PrinterPort(*printer);
   Program program = Start(L"127.0.0.1:" + std::to_wstring(port) + L" --lang de --interval 1");
@@ -152,7 +161,7 @@ TEST_CASE("the window tells a printer's state, its absence and its return") {
   CHECK(Close(program, WM_COMMAND, IDCANCEL) == 0);
 }
 
-TEST_CASE("the window asks another printer when told so, and ends while one is silent") {
+TEST_CASE("the window asks another printer when told so, and ends while one is silent" * kSkipped) {
   Program program = Start(L"--scenario cover-open --lang en");
   CHECK(WaitFor([&] { return Text(program, IDC_SHORT) == L"Cover Open"; }));
   SendMessageW(GetDlgItem(program.window, IDC_PRINTER), WM_SETTEXT, 0,
@@ -163,7 +172,7 @@ TEST_CASE("the window asks another printer when told so, and ends while one is s
   CHECK(Close(program, WM_CLOSE, 0) == 0);
 }
 
-TEST_CASE("wrong usage is told in a box") {
+TEST_CASE("wrong usage is told in a box" * kSkipped) {
   Program program = Start(L"--lang xx");
   CHECK(Close(program, WM_COMMAND, IDOK) == 3);
 }
