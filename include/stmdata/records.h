@@ -87,8 +87,8 @@ STM_SIZE(StatusNode, 272);
 typedef struct TrayNode { /* 20 bytes */
   struct TrayNode* next;  /*   0 */
   uint32_t nodeSize;      /*   4 */
-  uint16_t trayId;        /*   8  1 bypass, 2 multi-purpose, 3 to 7 trays 1 to 5 */
-  uint16_t paperCode;     /*  10  0 to 41; 1 no paper, 41 tray missing */
+  uint16_t trayId;        /*   8  1 bypass, 2 multi-purpose, 3 to 7 trays 1 to 5, 10 "MultiA4" */
+  uint16_t paperCode;     /*  10  0 to 41, 50 to 54; 1 no paper, 41 tray missing */
   uint16_t paperLevel;    /*  12  as the printer reports it; per cent from the print manager */
   uint8_t reserved[6];    /*  14 */
 } TrayNode;
@@ -104,7 +104,7 @@ typedef struct BinNode { /* 12 bytes */
   struct BinNode* next;  /*   0 */
   uint32_t nodeSize;     /*   4 */
   uint16_t binId;        /*   8  1 to 15, 255 unknown */
-  uint16_t binState;     /*  10 */
+  uint16_t binState;     /*  10  as the printer reports it; 1 usual, 2 not usable, 0 not told */
 } BinNode;
 STM_AT(BinNode, next, 0, 4);
 STM_AT(BinNode, nodeSize, 4, 4);
@@ -178,10 +178,11 @@ typedef struct PrnInfoEx {      /* 112 bytes */
   uint32_t currentTray;         /*  72  tray id in use; STM_ABSENT is not compared */
   uint32_t trayCount;           /*  76 */
   TrayNode* trayList;           /*  80 */
-  uint32_t currentBin;          /*  84  bin id in use, 0 none told; STM_ABSENT is not compared */
+  uint32_t currentBin;          /*  84  bin id in use, 0 none told; print manager: position; */
+                                /*      STM_ABSENT is not compared */
   uint32_t binCount;            /*  88 */
   BinNode* binList;             /*  92 */
-  uint32_t optionCount;         /*  96  options added; nodes of code 0 are not counted */
+  uint32_t optionCount;         /*  96  options; a reply does not count nodes of code 0 */
   OptionNode* optionList;       /* 100 */
   uint8_t reserved2[8];         /* 104 */
 } PrnInfoEx;
@@ -252,13 +253,13 @@ STM_SIZE(BinEntry, 8);
 typedef struct PrnInfo {       /* 2400 bytes */
   uint32_t statusCode;         /*    0  one code, or (sum of codes << 16) | 107 */
   uint32_t offline;            /*    4  1 offline */
-  uint32_t currentTray;        /*    8  tray id in use */
-  uint32_t hasDuplex;          /*   12  1 when option code 1 is listed */
+  uint32_t currentTray;        /*    8  tray id in use; the print manager's own number from there */
+  uint32_t hasDuplex;          /*   12  1 with the duplex unit (option code 1) */
   uint32_t modelInfoNumber;    /*   16 */
   char versionText1[16];       /*   20 */
   char versionText2[16];       /*   36 */
   char versionText3[16];       /*   52 */
-  uint32_t emulationCode;      /*   68  printer language in use */
+  uint32_t emulationCode;      /*   68  printer language in use; the print manager's own number */
   uint32_t emulationList[32];  /*   72 */
   uint32_t emulationCount;     /*  200 */
   uint32_t fontList[32];       /*  204 */
@@ -282,18 +283,20 @@ typedef struct PrnInfo {       /* 2400 bytes */
   BinEntry binList[16];        /* 1556 */
   uint32_t binCount;           /* 1684 */
   uint32_t duplexFlag;         /* 1688  readback: 1 when option code 1 is listed */
-  uint32_t option2Flag;        /* 1692  readback: 3 option code 2, 1 option code 3 */
-  uint32_t option3Flag;        /* 1696  network lists only */
-  uint32_t option4Flag;        /* 1700  1 when option code 4 is listed */
-  uint32_t optionBits1;        /* 1704  0x1 option 5, 0x2 option 6, 0x4 option 9, 0x8 option 10 */
-  uint32_t optionBits2;        /* 1708  0x1 option 7, 0x2 option 8 or 15, 0x4 option 13 */
-  uint32_t finisherBits;       /* 1712  0x1 stapler (option 11), 0x2 puncher (option 12) */
-  uint32_t currentBin;         /* 1716  output bin id in use */
-  uint32_t statusList[32];     /* 1720 */
-  uint32_t statusCount;        /* 1848 */
-  uint8_t reserved2[4];        /* 1852 */
-  uint32_t noResponse;         /* 1856  1 no response; print manager only */
-  uint8_t reserved3[540];      /* 1860 */
+  uint32_t option2Flag; /* 1692  readback: 3 option code 2, 1 option code 3; network: 1 disk */
+  uint32_t option3Flag; /* 1696  network lists only */
+  uint32_t option4Flag; /* 1700  1 when option code 4 is listed */
+  /* From a network bin list: optionBits1 0x1 bin 1, 0x2 bin 3, 0x4 bin 4 without 5; optionBits2
+     0x1 bin 2, 0x2 bin 7. */
+  uint32_t optionBits1;    /* 1704  0x1 option 5, 0x2 option 6, 0x4 option 9, 0x8 option 10 */
+  uint32_t optionBits2;    /* 1708  0x1 option 7, 0x2 option 8 or 15, 0x4 option 13 */
+  uint32_t finisherBits;   /* 1712  0x1 stapler (option 11), 0x2 puncher (option 12) */
+  uint32_t currentBin;     /* 1716  output bin id in use; the print manager's own number */
+  uint32_t statusList[32]; /* 1720 */
+  uint32_t statusCount;    /* 1848 */
+  uint8_t reserved2[4];    /* 1852 */
+  uint32_t noResponse;     /* 1856  1 no response; print manager only */
+  uint8_t reserved3[540];  /* 1860 */
 } PrnInfo;
 STM_AT(PrnInfo, statusCode, 0, 4);
 STM_AT(PrnInfo, offline, 4, 4);
@@ -427,13 +430,15 @@ STM_SIZE(PMModelInfo, 12);
 typedef struct PMItemGroup { /* 12 bytes */
   uint32_t count;            /*   0  number of items */
   const void* const* items;  /*   4  `count` pointers to PMInputTray, PMOutputBin, ... */
-  uint32_t current;          /*   8  the item in use; trays, bins and languages only */
+  uint32_t current;          /*   8  the item in use: trays and bins from 1, languages from 0 */
 } PMItemGroup;
 STM_AT(PMItemGroup, count, 0, 4);
 STM_AT(PMItemGroup, items, 4, 4);
 STM_AT(PMItemGroup, current, 8, 4);
 STM_SIZE(PMItemGroup, 12);
 
+/* levelFlags, the first that holds: 0x12 gives level 0, 0x100 10, 0x200 25, 0x400 50, 0x800 75,
+   else and when absent 100 per cent. */
 typedef struct PMInputTray { /* 28 bytes */
   const char* name;          /*   0 */
   uint32_t levelFlags;       /*   4 */
@@ -523,6 +528,8 @@ STM_SIZE(PMPrnInfo, 68);
 /* ---- The network layer's lists ---------------------------------------------------------------
    Built by the caller, only read by the library. A null entry pointer is an absent entry. */
 
+/* flags, the first that holds: 0x2 gives level 1 (no paper), 0x4 41 (tray missing), 0x100 and 0x200
+   25, 0x400 50, 0x800 75, else 100 per cent. */
 typedef struct NetTrayEntry { /* 12 bytes */
   const char* name;           /*   0 */
   uint32_t flags;             /*   4 */
@@ -535,7 +542,7 @@ STM_SIZE(NetTrayEntry, 12);
 
 typedef struct NetBinEntry { /* 8 bytes */
   const char* name;          /*   0 */
-  uint32_t flags;            /*   4  only the low byte is read */
+  uint32_t flags;            /*   4  low byte: 0x1 gives bin state 2, else 0x2 gives 1, else 0 */
 } NetBinEntry;
 STM_AT(NetBinEntry, name, 0, 4);
 STM_AT(NetBinEntry, flags, 4, 4);

@@ -153,11 +153,12 @@ STM_API uint32_t STM_CALL PatGetSimpleString_Ex(const PrnInfoEx* info, char* buf
 
 /* What to do about it, of the status chosen as for the status line. A ready printer with a missing
    tray, or an empty one other than the bypass tray, is told to have one, even offline. Toner states
-   end with a line of the colours concerned, in code page 932 and as often as they are listed. info
-   with statusCount 1, statusList[0] becomes the code that was chosen _Ex     does not write to the
-   record; offline comes before the trays, the bypass tray counts, a duplex unit in the way is told
-   of (result 1 even when that text is not to be had), and each colour is named once, in the
-   language, on the text's last line */
+   end with a line of the colours concerned, in code page 932 and as often as they are listed.
+   info    with statusCount 1, statusList[0] becomes the code that was chosen
+
+   _Ex     does not write to the record; offline comes before the trays, the bypass tray counts, a
+           duplex unit in the way is told of (result 1 even when that text is not to be had), and
+           each colour is named once, in the language, on the text's last line */
 STM_API uint32_t STM_CALL PatGetDetailString(PrnInfo* info, char* buffer, uint32_t size);
 STM_API uint32_t STM_CALL PatGetDetailString_Ex(const PrnInfoEx* info, char* buffer, int32_t size);
 
@@ -263,7 +264,7 @@ STM_API uint32_t STM_CALL PatGetPrnBitmap_Ex(const PrnInfoEx* info, PrnBitmap* b
               the ground, and the others are drawn with their ropSet. The printer's picture is
               drawn with 0x1
    reserved1, reserved2, reserved3  not read
-   Result     always 1. PatGetError becomes 2 when any layer was drawn
+   Result     always 1. PatGetError becomes 2 when the part list is not empty
    _Ex        the same */
 STM_API uint32_t STM_CALL PatDrawPrinterBitmap(HWND dialog, uint32_t reserved1, int32_t controlId,
                                                uint32_t flags, uint32_t reserved2,
@@ -283,7 +284,7 @@ STM_API uint32_t STM_CALL PatDrawPrinterBitmap_Ex(HWND dialog, uint32_t reserved
            pairs after the last entry are cleared. Trays and bins beyond the 16th are not stored. A
            null name is an unknown name, a null array an empty one. Names compare case-sensitively;
            unknown trays become 0 (41 with flag 0x4), unknown bins and media 0, unknown options
-           nothing. `currentIndex` beyond the entries leaves the tray or bin in use as it was
+           nothing. `currentIndex` beyond the entries stored leaves the tray or bin in use as it was
    Result  1 filled, 0 failed and `info` untouched; PatGetError: 2 `info` or `list` is null. An
            unknown mode writes no error value */
 STM_API uint32_t STM_CALL PatGetInfoFromNet(PrnInfo* info, uint32_t mode, const NetInfoList* list);
@@ -301,13 +302,17 @@ STM_API uint32_t STM_CALL PatGetStatusFromNet(uint32_t status);
    groups  set of Group... bits; GroupDeviceId means GroupModelInfo here, GroupDuplex nothing
    Result  1 converted, also where a group was absent and nothing was written for it. 0: nothing
            written, GetLastError 6: `info` or `pm` is null
+   GroupModelInfo always sets the maker "ORLEX" and drops the description. No trays or bins (count
+   0) change nothing. In use: the tray's id, the bin's position from 0, the language's code.
    Paper of unknown size and options of unknown device keep the code that their node had. A text
    that cannot be allocated becomes null; a list that cannot grow reports the length it has.
    _0      into the flat record. Result 0 without an error value also when a selected group lacks
            its source (for languages and fonts also when it has no item, for statuses when an item
            has no code); all others are converted. Tray, bin and language in use are stored as the
            print manager numbers them. Counts tell what was stored, at most the array's capacity.
-           Texts are cut to their field, never inside a double-byte character of code page 932 */
+           Texts are cut to their field, never inside a double-byte character of code page 932. A
+           count of 0 empties the counts of trays and bins. GroupOptions clears hasDuplex,
+           option2Flag to option4Flag and the option bits, also when it then fails */
 STM_API uint32_t STM_CALL PatSetPMPrnInfoToPrnInfo(PrnInfoEx* info, const PMPrnInfo* pm,
                                                    uint32_t groups);
 STM_API uint32_t STM_CALL PatSetPMPrnInfoToPrnInfo_0(PrnInfo* info, const PMPrnInfo* pm,
