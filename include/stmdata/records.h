@@ -104,7 +104,7 @@ typedef struct BinNode { /* 12 bytes */
   struct BinNode* next;  /*   0 */
   uint32_t nodeSize;     /*   4 */
   uint16_t binId;        /*   8  1 to 15, 255 unknown */
-  uint16_t binState;     /*  10  as the printer reports it; 1 usual, 2 not usable, 0 not told */
+  uint16_t binState;     /*  10  as the printer reports it; print manager 1 or 2, network 0 to 2 */
 } BinNode;
 STM_AT(BinNode, next, 0, 4);
 STM_AT(BinNode, nodeSize, 4, 4);
