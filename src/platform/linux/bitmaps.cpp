@@ -6,7 +6,7 @@ namespace {
 
 constexpr uintptr_t kStockHandle = 1;
 constexpr stm::Dib kOneBlackPixel = {1, 1, false, 1, stm::DibPlain, nullptr, 0, nullptr, nullptr};
-stm::Bitmap stockBitmap{{stm::Kind::Bitmap, kStockHandle}, kOneBlackPixel, false};
+stm::Bitmap stockBitmap{{kStockHandle}, kOneBlackPixel, false};
 
 }  // namespace
 

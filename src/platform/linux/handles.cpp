@@ -5,7 +5,16 @@
 namespace stm {
 namespace {
 
-std::atomic<Object*> table[kMostHandles];
+constexpr uint32_t kMostHandles = 4096;
+
+// The object claims the place, its number opens it to look-ups; 0 as long as there is none.
+struct Entry {
+  std::atomic<Object*> object;
+  std::atomic<uint32_t> handle;
+  std::atomic<Kind> kind;
+};
+
+Entry table[kMostHandles];
 std::atomic<uint32_t> entered{0};
 
 // Handle: the number of the entry in the upper 20 bits, never 0, and its place in the lower 12.
@@ -17,14 +26,16 @@ static_assert(1u << kPlaceBits == kMostHandles);
 bool EnterObject(Object* object, Kind kind) {
   if (!object) return false;
   const uint32_t number = entered.fetch_add(1, std::memory_order_relaxed);
-  object->kind = kind;
   for (uint32_t i = 0; i < kMostHandles; ++i) {
     const uint32_t place = (number + i) % kMostHandles;
+    Entry& entry = table[place];
     Object* none = nullptr;
-    if (table[place].load(std::memory_order_relaxed)) continue;
+    if (!entry.object.compare_exchange_strong(none, object, std::memory_order_acq_rel)) continue;
     const uint32_t serial = number % 0xFFFFF + 1;
     object->handle = serial << kPlaceBits | place;
-    if (table[place].compare_exchange_strong(none, object, std::memory_order_acq_rel)) return true;
+    entry.kind.store(kind, std::memory_order_relaxed);
+    entry.handle.store(object->handle, std::memory_order_release);
+    return true;
   }
   GlobalFree(object);
   return false;
@@ -32,16 +43,16 @@ bool EnterObject(Object* object, Kind kind) {
 
 Object* FindObject(const void* handle, Kind kind) {
   const auto number = static_cast<uint32_t>(reinterpret_cast<uintptr_t>(handle));
-  Object* object = ObjectAt(number % kMostHandles);
-  return object && object->handle == number && object->kind == kind ? object : nullptr;
-}
-
-Object* ObjectAt(uint32_t place) {
-  return table[place].load(std::memory_order_acquire);
+  const Entry& entry = table[number % kMostHandles];
+  if (number == 0 || entry.handle.load(std::memory_order_acquire) != number) return nullptr;
+  if (entry.kind.load(std::memory_order_relaxed) != kind) return nullptr;
+  return entry.object.load(std::memory_order_acquire);
 }
 
 void ReleaseObject(Object* object) {
-  table[object->handle % kMostHandles].store(nullptr, std::memory_order_release);
+  Entry& entry = table[object->handle % kMostHandles];
+  entry.handle.store(0, std::memory_order_relaxed);
+  entry.object.store(nullptr, std::memory_order_release);
   GlobalFree(object);
 }
 

@@ -1,6 +1,6 @@
 // Handles of windows, device contexts, bitmaps and icons. A handle is a number that names a place
-// in one table and the object that was put there, so that null, foreign and released handles are
-// told from good ones without touching memory that may not be there.
+// in one table and the entry that was made there. The table itself knows the number and the kind,
+// so that null, foreign and released handles are told from good ones without touching an object.
 #pragma once
 
 #include <cstdint>
@@ -13,11 +13,8 @@ enum class Kind : uint32_t { Bitmap, Icon, WindowContext, MemoryContext, Dialog,
 
 // The head of every object. Objects are zero-filled global memory blocks.
 struct Object {
-  Kind kind;
   uint32_t handle;
 };
-
-constexpr uint32_t kMostHandles = 4096;
 
 // Enters the block into the table and fills its head. Result: false, and the block released, when
 // it is null or the table is full.
@@ -25,9 +22,6 @@ bool EnterObject(Object* object, Kind kind);
 
 // The object of the kind with this handle, or null.
 Object* FindObject(const void* handle, Kind kind);
-
-// The object at a place of the table below kMostHandles, or null.
-Object* ObjectAt(uint32_t place);
 
 // Takes the object out of the table and releases its block.
 void ReleaseObject(Object* object);

@@ -1,5 +1,7 @@
 // Icons: a group names its image, and the image is a bitmap of colours with a mask of one bit a
 // pixel behind it, 1 where the icon is transparent.
+#include <atomic>
+
 #include "platform/linux/bitmaps.h"
 
 namespace {
@@ -40,14 +42,28 @@ bool IsTransparent(const Icon& icon, int32_t x, int32_t y) {
   return icon.mask[row * MaskStride(icon.colors) + static_cast<uint32_t>(x) / 8] >> (7 - x % 8) & 1;
 }
 
-// Shared icons are never released, so the table is the memory of what is loaded.
-const Icon* LoadedIcon(const uint8_t* mask) {
-  for (uint32_t place = 0; place < stm::kMostHandles; ++place) {
-    const stm::Object* object = stm::ObjectAt(place);
-    if (!object || object->kind != Icon::kKind) continue;
-    const auto* icon = static_cast<const Icon*>(object);
-    if (icon->mask == mask) return icon;
+// Loaded icons are shared and live as long as the process. They fill the places from the first on,
+// as many as the library has icons.
+constexpr uint32_t kMostIcons = 16;
+std::atomic<Icon*> loadedIcons[kMostIcons];
+
+// The mask tells which icon it is. Threads that load the same icon at once meet at the same empty
+// place: one of them enters its own, which is complete by then, and the others take that one.
+const Icon* SharedIcon(const Icon& read) {
+  Icon* own = nullptr;
+  for (std::atomic<Icon*>& place : loadedIcons) {
+    Icon* icon = place.load(std::memory_order_acquire);
+    if (!icon) {
+      if (!own && !(own = stm::NewObject<Icon>())) return nullptr;
+      own->colors = read.colors;
+      own->mask = read.mask;
+      if (place.compare_exchange_strong(icon, own, std::memory_order_acq_rel)) return own;
+    }
+    if (icon->mask != read.mask) continue;
+    if (own) stm::ReleaseObject(own);
+    return icon;
   }
+  if (own) stm::ReleaseObject(own);
   return nullptr;
 }
 
@@ -61,12 +77,7 @@ HICON STM_CALL LoadIconA(HINSTANCE module, const char* name) {
   const auto id = static_cast<uint16_t>(group.data[kGroupIdAt] | group.data[kGroupIdAt + 1] << 8);
   Icon read{};
   if (!ReadIcon(stm::ResourceBytes(module, MAKEINTRESOURCEA(id), RT_ICON), &read)) return nullptr;
-  if (const Icon* loaded = LoadedIcon(read.mask)) return stm::HandleOf<HICON>(loaded);
-  auto* icon = stm::NewObject<Icon>();
-  if (!icon) return nullptr;
-  icon->colors = read.colors;
-  icon->mask = read.mask;
-  return stm::HandleOf<HICON>(icon);
+  return stm::HandleOf<HICON>(SharedIcon(read));
 }
 
 BOOL STM_CALL HostReadIcon(HICON handle, uint32_t* pixels, uint32_t count, int32_t* width,
