@@ -25,15 +25,47 @@ constexpr uint32_t kEmptyLevel = 1;  // a tray with this paper level or less hol
 
 // ---- The latest list --------------------------------------------------------------------------
 
-// Four codes a word. Drawing has no argument for the list, so the latest composition provides it.
-std::atomic<uint32_t> lastPartList[kPartListSize / 4];
+// Drawing has no argument for the list, so the latest composition provides it. Each list is written
+// aside under a ticket, at a place that nobody writes, and then becomes the latest as a whole.
+struct StoredList {
+  std::atomic<uint32_t> version;  // odd while it is written
+  std::atomic<uint32_t> words[kPartListSize / 4];
+};
+
+constexpr uint32_t kStoredLists = 8;
+StoredList storedLists[kStoredLists];
+std::atomic<uint32_t> latestTicket;
 
 void RememberPartList(const uint8_t* codes) {
-  for (uint32_t i = 0; i < kPartListSize / 4; ++i) {
-    uint32_t word;
-    std::memcpy(&word, codes + 4 * i, 4);
-    lastPartList[i].store(word, std::memory_order_relaxed);
+  uint32_t latest = latestTicket.load(std::memory_order_acquire);
+  for (uint32_t ticket = latest + 1;; ++ticket) {
+    StoredList& list = storedLists[ticket % kStoredLists];
+    uint32_t version = list.version.load(std::memory_order_relaxed) & ~1u;
+    if (!list.version.compare_exchange_strong(version, version + 1, std::memory_order_acq_rel))
+      continue;
+    for (std::atomic<uint32_t>& word : list.words) {
+      uint32_t four;
+      std::memcpy(&four, codes, 4);
+      codes += 4;
+      word.store(four, std::memory_order_release);
+    }
+    list.version.store(version + 2, std::memory_order_release);
+    // Where another composition got ahead meanwhile, that one is the latest.
+    latestTicket.compare_exchange_strong(latest, ticket, std::memory_order_acq_rel);
+    return;
   }
+}
+
+// Result: false when the list was written anew meanwhile.
+bool ReadStoredList(const StoredList& list, PartList* codes) {
+  const uint32_t version = list.version.load(std::memory_order_acquire);
+  uint8_t* to = codes->data();
+  for (const std::atomic<uint32_t>& word : list.words) {
+    const uint32_t four = word.load(std::memory_order_acquire);
+    std::memcpy(to, &four, 4);
+    to += 4;
+  }
+  return version % 2 == 0 && list.version.load(std::memory_order_relaxed) == version;
 }
 
 // ---- Overlays collected -----------------------------------------------------------------------
@@ -340,12 +372,12 @@ uint32_t ComposeBitmap(const Record* info, PrnBitmap* bitmap) {
 }  // namespace
 
 PartList LastPartList() {
-  PartList list;
-  for (uint32_t i = 0; i < kPartListSize / 4; ++i) {
-    const uint32_t word = lastPartList[i].load(std::memory_order_relaxed);
-    std::memcpy(&list[4 * i], &word, 4);
-  }
-  return list;
+  PartList codes;
+  const StoredList* list;
+  do {
+    list = &storedLists[latestTicket.load(std::memory_order_acquire) % kStoredLists];
+  } while (!ReadStoredList(*list, &codes));
+  return codes;
 }
 
 }  // namespace stm

@@ -1,0 +1,69 @@
+#include <algorithm>
+#include <array>
+#include <atomic>
+#include <thread>
+#include <vector>
+
+#include "doctest/doctest.h"
+#include "picture/composition.h"
+#include "stmdata/stmdata.h"
+
+namespace {
+
+constexpr size_t kThreads = 4;
+
+// Runs the body in several threads that start together.
+template <class Body>
+void RunTogether(Body body) {
+  std::atomic<size_t> waiting{kThreads};
+  std::vector<std::thread> threads;
+  for (size_t i = 0; i < kThreads; ++i) {
+    threads.emplace_back([&, i] {
+      for (--waiting; waiting != 0;) {
+      }
+      body(i);
+    });
+  }
+  for (std::thread& thread : threads)
+    thread.join();
+}
+
+}  // namespace
+
+TEST_CASE("threads that load the same icons at once share them") {
+  const char* const names[] = {"ICO_ONLINE", "ICO_OFFLINE", "ICO_WARMUP", "ICO_ERR_COVER",
+                               "ICO_PAP_0",  "ICO_PAP_25",  "ICO_PAP_50", "ICO_PAP_75"};
+  std::array<std::array<HICON, std::size(names)>, kThreads> icons{};
+  RunTogether([&](size_t thread) {
+    for (size_t i = 0; i < std::size(names); ++i)
+      icons[thread][i] = PatLoadIcon(names[i]);
+  });
+  for (const auto& loaded : icons)
+    CHECK(loaded == icons[0]);
+  for (const HICON icon : icons[0])
+    CHECK(icon);
+}
+
+TEST_CASE("compositions at once never mix their part lists") {
+  const uint32_t statuses[kThreads] = {38, 25, 48, 102};
+  std::array<stm::PartList, kThreads> lists{};
+  std::atomic<uint32_t> mixed{0};
+  const auto compose = [&](size_t i) {
+    PrnInfo info{};
+    info.statusCode = statuses[i];
+    PatGetPrnBitmapEx(&info, lists[i].data(), stm::PartList{}.data(), stm::kPartListSize);
+  };
+  for (size_t i = 0; i < kThreads; ++i) {
+    compose(i);
+    CHECK(stm::LastPartList() == lists[i]);
+  }
+  const auto wanted = lists;
+  RunTogether([&](size_t thread) {
+    for (int round = 0; round < 20000; ++round) {
+      compose(thread);
+      const stm::PartList last = stm::LastPartList();
+      if (std::find(wanted.begin(), wanted.end(), last) == wanted.end()) ++mixed;
+    }
+  });
+  CHECK(mixed.load() == 0);
+}
