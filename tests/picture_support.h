@@ -73,11 +73,13 @@ class PictureDialog {
   PictureDialog(int32_t width, int32_t height, uint32_t color = 0x00FFFFFF)
       : width_(width), height_(height) {
 #ifdef _WIN32
-    handle_ = CreateWindowA("STATIC", "", WS_POPUP | WS_VISIBLE, 0, 0, width, height, nullptr,
-                            nullptr, nullptr, nullptr);
+    handle_ = CreateWindowA("STATIC", "", WS_POPUP, 0, 0, width, height, nullptr, nullptr, nullptr,
+                            nullptr);
     REQUIRE(handle_);
     CreateWindowA("STATIC", "", WS_CHILD | WS_VISIBLE, 0, 0, width, height, handle_,
                   reinterpret_cast<HMENU>(kControl), nullptr, nullptr);
+    // An active window would be managed, and its end waits two seconds where no manager runs.
+    ShowWindow(handle_, SW_SHOWNOACTIVATE);
 #else
     handle_ = HostCreateDialog();
     REQUIRE(HostAddPicture(handle_, kControl, width, height));
