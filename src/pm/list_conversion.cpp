@@ -11,15 +11,20 @@
 namespace stm {
 namespace {
 
-// Strings of any length are taken whole, short ones with room for a reply's version text. The new
-// block is filled before the old one goes, so that a caller may hand in the record's own string.
-void ReplaceText(char** field, const char* text) {
+// Strings of any length are taken whole, in a block of at least `least` bytes. The new block is
+// filled before the old one goes, so that a caller may hand in the record's own string.
+void ReplaceText(char** field, const char* text, size_t least = 0) {
   const size_t bytes = std::strlen(text) + 1;
-  const size_t room = bytes < kVersionBytes ? kVersionBytes : bytes;
+  const size_t room = bytes < least ? least : bytes;
   auto* block = static_cast<char*>(GlobalAlloc(GPTR, static_cast<uint32_t>(room)));
   if (block) std::memcpy(block, text, bytes);
   GlobalFree(*field);
   *field = block;
+}
+
+// A later reply writes its own version text over this one, into the same block.
+void ReplaceVersionText(char** field, const char* text) {
+  ReplaceText(field, text, kVersionBytes);
 }
 
 // Brings a list to the group's length and fills each node from its item. Nodes that are already
@@ -54,7 +59,7 @@ void ConvertModel(PrnInfoEx* info, const PMPrnInfo& pm) {
     info->modelCode = ModelCode(model.modelName);
     ReplaceText(&info->modelName, model.modelName);
   }
-  if (IsPresent(model.versionText)) ReplaceText(&info->versionText1, model.versionText);
+  if (IsPresent(model.versionText)) ReplaceVersionText(&info->versionText1, model.versionText);
   if (IsPresent(model.number)) info->modelInfoNumber = model.number;
   ReplaceText(&info->manufacturer, kMaker);
   GlobalFree(info->description);
@@ -79,9 +84,9 @@ void ConvertEmulations(PrnInfoEx* info, const PMPrnInfo& pm) {
     node.emulationCode = static_cast<uint16_t>(EmulationCode(emulation));
     if (!IsPresent(emulation.versionText)) return;
     if (node.emulationCode == kEmulationWxdlC) {
-      ReplaceText(&info->versionText2, emulation.versionText);
+      ReplaceVersionText(&info->versionText2, emulation.versionText);
     } else if (node.emulationCode == kEmulationOrlexScript2) {
-      ReplaceText(&info->versionText3, emulation.versionText);
+      ReplaceVersionText(&info->versionText3, emulation.versionText);
     }
   };
   if (!FillList<PMEmulation>(info->emulationList, info->emulationCount, pm.emulationInfo, fill))
