@@ -10,8 +10,8 @@
 using HDC = struct HDC__*;
 
 extern "C" {
-// Orders two strings; 0 when they are equal. Case counts. Only equality is promised to mean the
-// same as on Windows: order is by byte here, by the user's language there.
+// Orders two strings; 0 when they are equal. Case counts. Both are by byte here. On Windows they
+// are linguistic, in the user's language, where also strings of different bytes may be equal.
 int32_t STM_CALL lstrcmpA(const char* first, const char* second);
 
 // Bitmaps are read where the module keeps them; a loaded one is only a view of its bytes. The same
