@@ -144,13 +144,13 @@ struct Statuses {
   uint32_t picture;  // the status whose row is drawn
 };
 
-bool HasSeveralStatuses(const PrnInfo& info) {
+bool HasSeveralMarker(const PrnInfo& info) {
   return (info.statusCode & 0xFF) == StatusSeveralMarker;
 }
 
 Statuses StatusesOf(const PrnInfo& info) {
   Statuses statuses{};
-  if (HasSeveralStatuses(info) && info.statusCount != 0) {
+  if (HasSeveralMarker(info) && info.statusCount != 0) {
     statuses.count = GetDominantStatusList(&info, statuses.codes, kMostStatuses);
   } else {
     statuses.count = 1;
@@ -220,7 +220,7 @@ void CollectOverlays(WorkList& work, const PrnInfo& info, const Statuses& status
   if (HasTray(&info, kTray2)) Append(work, fromBack ? kTray2Back : kTray2Front);
   if (HasTray(&info, kTray3)) Append(work, fromBack ? kTray3Back : kTray3Front);
   AppendTonerArea(work, picture);
-  if (HasSeveralStatuses(info) && MarkSeveral(work, info, statuses)) return;
+  if (HasSeveralMarker(info) && MarkSeveral(work, info, statuses)) return;
   if (MarkTraysNotPlaced(work, info, picture)) return;
   if (MarkTraysWithoutPaper(work, info, picture)) return;
   // The record's own code from here on: it counts even when no response is what is shown.

@@ -75,19 +75,23 @@ struct RearViewRow {
   uint8_t tray3[8];       // duplex unit and tray 3 installed, before the next
   uint8_t duplexUnit[8];  // duplex unit installed
   uint8_t noDuplex[8];    // no duplex unit
-  uint8_t tray2[8];       // no duplex unit, and tray 2 installed
+  uint8_t tray2[8];       // no duplex unit, and tray 2 installed; status 93: also with the duplex
+                          // unit, and then whether tray 2 is installed or not
 };
 
+// The first column is the status, as above; 93 is a tray not placed properly, seen from the front.
+// clang-format off
 inline constexpr RearViewRow kRearViewTable[] = {
-    // status  tray 3         duplex unit               no duplex unit        tray 2
-    {39, {57, 56}, {67, 66, 52, 48}, {2, 38, 19}, {44, 4}},
-    {45, {57, 56}, {67, 66, 50, 46, 52, 48}, {2, 38, 19, 39, 20}, {44, 4}},
-    {89, {57, 56, 63, 62}, {67, 66, 52, 48}, {2}, {44, 4, 61, 60}},
-    {90, {57, 56, 63, 62}, {67, 66, 52, 48}, {2}, {44, 4, 61, 60}},
-    {91, {57, 56}, {67, 66, 51, 47, 52, 48}, {}, {}},
-    {93, {}, {}, {}, {43, 3, 25, 6}},  // seen from the front, with the duplex unit as without
-    {94, {57, 56}, {67, 66, 52, 48}, {2, 38, 19}, {44, 4}},
-    {0xFFFFFFFF, {}, {}, {}, {}},  // closing row: every other status is seen from the front
+    //   tray 3            duplex unit               no duplex unit       tray 2
+    {39, {57, 56},         {67, 66, 52, 48},         {2, 38, 19},         {44, 4}},
+    {45, {57, 56},         {67, 66, 50, 46, 52, 48}, {2, 38, 19, 39, 20}, {44, 4}},
+    {89, {57, 56, 63, 62}, {67, 66, 52, 48},         {2},                 {44, 4, 61, 60}},
+    {90, {57, 56, 63, 62}, {67, 66, 52, 48},         {2},                 {44, 4, 61, 60}},
+    {91, {57, 56},         {67, 66, 51, 47, 52, 48}, {},                  {}},
+    {93, {},               {},                       {},                  {43, 3, 25, 6}},
+    {94, {57, 56},         {67, 66, 52, 48},         {2, 38, 19},         {44, 4}},
+    {kPictureTableEnd, {}, {}, {}, {}},  // closing row: every other status is seen from the front
 };
+// clang-format on
 
 }  // namespace stm

@@ -9,8 +9,8 @@ namespace stm {
 namespace {
 
 enum : uint32_t {
-  DrawWithRopSet = 0x1,    // the second pass uses ropSet instead of ropClear
-  DrawSecondPass = 0x100,  // the first pass is left out
+  DrawWithRopSet = 0x1,   // the second pass uses ropSet instead of ropClear
+  SkipFirstPass = 0x100,  // only the second pass is drawn
 };
 
 struct Control {
@@ -52,7 +52,7 @@ void DrawPicture(const Control& control, uint32_t flags) {
   for (const uint8_t code : LastPartList()) {
     if (code == 0 || code >= kPartCount) continue;
     PrnPart part;
-    if (!(flags & DrawSecondPass)) {
+    if (!(flags & SkipFirstPass)) {
       PatGetPrnParts(nullptr, code, &part);
       BlitLayer(control, part.bitmapName, first ? SRCCOPY : part.ropSet);
       first = false;
