@@ -46,7 +46,10 @@ TEST_CASE("the version words leave the record's first field alone") {
   CHECK(PatGetDllVersion(&version) == 1);
   CHECK(version.reserved == 0xA5A5A5A5);
   CHECK(version.versionWord1 == 0x01010000);
+  CHECK(version.versionWord2 == 0x01010000);
   CHECK(version.versionWord3 == 0x00000100);
+  CHECK(version.versionWord4 == 0x01000000);
+  CHECK(version.versionWord5 == 0x00000002);
   CHECK(version.versionWord6 == 0x000A001E);
   CHECK(PatGetDllVersion(nullptr) == 0);
 }
