@@ -6,9 +6,18 @@
 #include <chrono>
 #include <cstdint>
 #include <cstdio>
+#include <cstring>
 #include <vector>
 
 namespace bench {
+
+// What of each row is done, set once by main.
+struct Task {
+  enum { Measure, List, RunWork, RunFloor } kind;
+  const char* row;  // RunWork, RunFloor: the row to run
+  uint32_t calls;   // ... and how often
+};
+inline Task task{Task::Measure, nullptr, 0};
 
 // Keeps the compiler from dropping work whose result nobody uses.
 template <class Value>
@@ -17,19 +26,31 @@ inline void Use(const Value& value) {
 }
 
 template <class Work>
-double BatchNanoseconds(uint32_t calls, Work& work) {
-  const auto start = std::chrono::steady_clock::now();
+void Repeat(uint32_t calls, Work& work) {
   for (uint32_t i = 0; i < calls; ++i)
     work();
-  const std::chrono::duration<double, std::nano> spent = std::chrono::steady_clock::now() - start;
-  return spent.count() / calls;
 }
 
-// As many calls as take a millisecond or more.
+// Nanoseconds that the work takes.
+template <class Work>
+double Nanoseconds(Work&& work) {
+  const auto start = std::chrono::steady_clock::now();
+  work();
+  const std::chrono::duration<double, std::nano> spent = std::chrono::steady_clock::now() - start;
+  return spent.count();
+}
+
+template <class Work>
+double BatchNanoseconds(uint32_t calls, Work& work) {
+  return Nanoseconds([&] { Repeat(calls, work); }) / calls;
+}
+
+// As many calls as take a fifth of a millisecond or more: long for the clock, and short enough that
+// a busy machine interrupts only some of the batches.
 template <class Work>
 uint32_t CallsPerBatch(Work& work) {
   uint32_t calls = 1;
-  while (BatchNanoseconds(calls, work) * calls < 1e6)
+  while (BatchNanoseconds(calls, work) * calls < 2e5)
     calls *= 2;
   return calls;
 }
@@ -39,10 +60,9 @@ inline double Median(std::vector<double>& values) {
   return values[values.size() / 2];
 }
 
-// Prints the medians of both in nanoseconds a call, their ratio, and the ratio that is aimed at.
 template <class Work, class Floor>
-void Row(const char* name, Work work, Floor floor, double aim) {
-  constexpr int kBatches = 201;
+void MeasureRow(const char* name, Work& work, Floor& floor, double aim) {
+  constexpr int kBatches = 401;
   const uint32_t calls = CallsPerBatch(work);
   const uint32_t floorCalls = CallsPerBatch(floor);
   std::vector<double> spent, least;
@@ -51,19 +71,38 @@ void Row(const char* name, Work work, Floor floor, double aim) {
     least.push_back(BatchNanoseconds(floorCalls, floor));
   }
   const double ns = Median(spent);
-  const double floorNs = Median(least);
-  std::printf("%-44s %10.1f %10.1f %8.2f %8.2f%s\n", name, ns, floorNs, ns / floorNs, aim,
-              ns / floorNs <= aim ? "" : "  missed");
+  const double ratio = ns / Median(least);
+  std::printf("%-46s %10.1f %10.1f %8.2f", name, ns, ns / ratio, ratio);
+  if (aim > 0) std::printf(" %8.2f%s", aim, ratio <= aim ? "" : "  missed");
+  std::printf("\n");
+}
+
+// A row: the medians of both in nanoseconds a call, their ratio, and the ratio that is aimed at
+// where there is one.
+template <class Work, class Floor>
+void Row(const char* name, Work work, Floor floor, double aim = 0) {
+  const bool asked = !task.row || std::strcmp(task.row, name) == 0;
+  if (task.kind == Task::Measure) MeasureRow(name, work, floor, aim);
+  if (task.kind == Task::List) std::puts(name);
+  if (task.kind == Task::RunWork && asked) Repeat(task.calls, work);
+  if (task.kind == Task::RunFloor && asked) Repeat(task.calls, floor);
+}
+
+// A note under the header of an area: of the table only.
+template <class... Values>
+void Note(const char* format, Values... values) {
+  if (task.kind == Task::Measure) std::printf(format, values...);
 }
 
 inline void Header(const char* area) {
-  std::printf("\n%-44s %10s %10s %8s %8s\n", area, "ns", "floor ns", "ratio", "aim");
+  Note("\n%-46s %10s %10s %8s %8s\n", area, "ns", "floor ns", "ratio", "aim");
 }
 
 // ---- One function for each area, in a file of its own ----------------------------------------
 void BenchRecords();
 void BenchPrintManager();
 void BenchStatus();
+void BenchPoll();
 void BenchPicture();
 
 }  // namespace bench

@@ -1,9 +1,9 @@
 // Replies, Device IDs, the query and the status row.
 #include <cstring>
-#include <string>
 #include <string_view>
 
 #include "bench.h"
+#include "sample.h"
 #include "stmdata/stmdata.h"
 
 namespace {
@@ -18,93 +18,39 @@ constexpr std::string_view kReply =
 constexpr std::string_view kDeviceId =
     "MFG:ORLEX;CMD:NDL,NPS,N98,N16,NGL,GL2,NTF,NWC;MDL:ZENTA C210;CLS:PRINTER;DES:ZENTA C210;";
 
-template <class Node, class Visit>
-void VisitNodes(Node*& head, Visit visit) {
-  for (Node* node = head; node;) {
-    Node* next = node->next;
-    visit(node, sizeof *node);
-    node = next;
-  }
-}
-
-// Calls `visit` with the address and size of every block of the record.
-template <class Visit>
-void VisitBlocks(PrnInfoEx& record, Visit visit) {
-  for (char* text : {record.modelName, record.manufacturer, record.description})
-    if (text) visit(text, std::strlen(text) + 1);
-  for (char* text : {record.versionText1, record.versionText2, record.versionText3})
-    if (text) visit(text, size_t{7});
-  VisitNodes(record.statusList, visit);
-  VisitNodes(record.emulationList, visit);
-  VisitNodes(record.fontList, visit);
-  VisitNodes(record.trayList, visit);
-  VisitNodes(record.binList, visit);
-  VisitNodes(record.optionList, visit);
-}
-
-void Release(PrnInfoEx& record) {
-  VisitBlocks(record, [](void* block, size_t) { GlobalFree(block); });
-  record = {};
-}
-
-uint32_t Parse(PrnInfoEx& record) {
-  return SetPrnInfoExFromReadbackCmd(&record, kReply.data(), static_cast<int32_t>(kReply.size()));
-}
+using bench::Release;
+using Floor = bench::RecordFloor;
 
 uint32_t ReadDeviceId(PrnInfoEx& record) {
   return SetModelInfoExFromDeviceID(&record, kDeviceId.data(),
                                     static_cast<uint32_t>(kDeviceId.size()));
 }
 
-// As many zero-filled allocations and releases as the record holds blocks, and one copy of the
-// input.
-struct Floor {
-  explicit Floor(PrnInfoEx& record, std::string_view bytes) : input(bytes) {
-    VisitBlocks(record, [this](void*, size_t size) { sizes.push_back(uint32_t(size)); });
-    blocks.resize(sizes.size());
-    copy.resize(bytes.size());
-  }
-  void operator()() {
-    std::memcpy(copy.data(), input.data(), input.size());
-    for (size_t i = 0; i < sizes.size(); ++i)
-      blocks[i] = GlobalAlloc(GPTR, sizes[i]);
-    bench::Use(copy);
-    for (void* block : blocks)
-      GlobalFree(block);
-  }
-  std::string_view input;
-  std::vector<uint32_t> sizes;
-  std::vector<void*> blocks;
-  std::string copy;
-};
-
 }  // namespace
 
 void bench::BenchRecords() {
   PrnInfoEx record{};
   PrnInfo flat{};
-  Parse(record);
+  Parse(record, kReply);
   const Floor replyFloor(record, kReply);
   Header("Records");
-  std::printf("(a reply of %zu bytes, %zu blocks)\n", kReply.size(), replyFloor.sizes.size());
+  Note("(a reply of %zu bytes, %zu blocks)\n", kReply.size(), replyFloor.sizes.size());
   Row(
-      "reply, repeated into one record", [&] { Parse(record); }, replyFloor, 1.0);
+      "reply, repeated into one record", [&] { Parse(record, kReply); }, replyFloor, 1.0);
   Release(record);
   Row(
       "reply, into a fresh record and release",
       [&] {
-        Parse(record);
+        Parse(record, kReply);
         Release(record);
       },
       replyFloor, 1.5);
   Row(
-      "reply, into the flat record",
-      [&] { SetPrnInfoFromReadbackCmd(&flat, kReply.data(), static_cast<int32_t>(kReply.size())); },
-      replyFloor, 1.0);
+      "reply, into the flat record", [&] { Parse(flat, kReply); }, replyFloor, 1.0);
 
   ReadDeviceId(record);
   const Floor idFloor(record, kDeviceId);
-  std::printf("(a Device ID of %zu bytes, %zu blocks)\n", kDeviceId.size(), idFloor.sizes.size());
+  Note("(a Device ID of %zu bytes, %zu blocks)\n", kDeviceId.size(), idFloor.sizes.size());
   Row(
       "Device ID, repeated into one record", [&] { ReadDeviceId(record); }, idFloor, 2.0);
   Release(record);
