@@ -17,7 +17,7 @@ inline void Require(bool holds) {
 
 class Source {
  public:
-  Source(const uint8_t* data, size_t size) : at_(data), left_(size) {}
+  Source(const uint8_t* data, size_t size) : at_(data), left_(size) { kept_.reserve(64); }
 
   bool Empty() const { return left_ == 0; }
 
@@ -42,11 +42,15 @@ class Source {
     return choice;
   }
 
-  // A block of the bytes, kept until the source goes.
-  void* Keep(const void* bytes, size_t size) {
+  // A block of zeros or, with Keep, of the bytes; kept until the source goes.
+  void* Block(size_t size) {
     kept_.push_back(std::make_unique<uint8_t[]>(size));
-    if (size > 0) std::memcpy(kept_.back().get(), bytes, size);
     return kept_.back().get();
+  }
+  void* Keep(const void* bytes, size_t size) {
+    void* const block = Block(size);
+    if (size > 0) std::memcpy(block, bytes, size);
+    return block;
   }
   template <class Item>
   Item* Keep(const Item& item) {
@@ -62,11 +66,11 @@ class Source {
       return static_cast<char*>(Keep(names[choice], std::strlen(names[choice]) + 1));
     if (choice == 0xFF) return absent;
     if (choice == 0xFE) return nullptr;
-    std::vector<char> text(choice % 48 + (choice == 0xFD ? 300 : 0));
-    for (char& byte : text)
-      byte = static_cast<char>(Byte());
-    text.push_back('\0');
-    return static_cast<char*>(Keep(text.data(), text.size()));
+    const size_t length = choice % 48 + (choice == 0xFD ? 300 : 0);
+    auto* const text = static_cast<char*>(Block(length + 1));
+    for (size_t i = 0; i < length; ++i)
+      text[i] = static_cast<char>(Byte());
+    return text;
   }
 
  private:
