@@ -15,7 +15,7 @@ const NamedScenario kNamedScenarios[] = {
      "tray 1 -1 0\n"
      "tray 2 2 50\n"},
     {"cover-open", "the front cover is open", "status 37\n"},
-    {"toner-empty", "two toners are empty, a third nearly so", "status 67,69,71\n"},
+    {"toner-empty", "two toners are empty, a third nearly so", "status 66,69,71\n"},
     {"misfeed", "paper is stuck in the duplex unit",
      "status 96\n"
      "duplex yes\n"},
