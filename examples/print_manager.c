@@ -1,6 +1,7 @@
 /* The print manager's road: its own record of names into both printer records, and on to texts. */
 #include <stdio.h>
 
+#include "release.h"
 #include "stmdata/stmdata.h"
 
 #define COUNT_OF(array) (uint32_t)(sizeof(array) / sizeof *(array))
@@ -12,23 +13,6 @@ static const PMStatusItem noPaper = {0, 32};
 static const void* const trays[] = {&upper, &lower};
 static const void* const options[] = {&duplex};
 static const void* const statuses[] = {&noPaper};
-
-/* The nodes and texts of a list-based record belong to its owner. */
-#define RELEASE_LIST(head)     \
-  while (head) {               \
-    void* next = (head)->next; \
-    GlobalFree(head);          \
-    (head) = next;             \
-  }
-
-static void Release(PrnInfoEx* record) {
-  GlobalFree(record->modelName);
-  GlobalFree(record->manufacturer);
-  GlobalFree(record->versionText1);
-  RELEASE_LIST(record->statusList)
-  RELEASE_LIST(record->trayList)
-  RELEASE_LIST(record->optionList)
-}
 
 int main(void) {
   const uint32_t groups =

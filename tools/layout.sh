@@ -6,14 +6,15 @@ set -eu
 cd "$(dirname "$0")/.."
 version=$(sed -nE 's/^project\(.* VERSION ([0-9.]+).*/\1/p' CMakeLists.txt)
 
-# files COLUMN: the rows that have a mark in this column. `NAME/*` stands for the files of the source
-# folder NAME.
+# files COLUMN: the rows that have a mark in this column. `FOLDER/NAME/*.md` stands for such files of the
+# source folder NAME, the longest end of the path that the source tree has.
 files() {
   rows "$1" | while IFS= read -r row; do
     case $row in
-      */\*)
-        source=$(basename "${row%/*}")
-        [ ! -d "$source" ] || find "$source" -type f -printf "${row%/*}/%P\n"
+      */\**)
+        folder=${row%/*} source=$folder
+        while [ ! -d "$source" ] && [ "$source" != "${source#*/}" ]; do source=${source#*/}; done
+        find "$source" -maxdepth 1 -type f -name "${row##*/}" -printf "$folder/%P\n"
         ;;
       *) printf '%s\n' "$row" ;;
     esac

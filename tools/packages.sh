@@ -54,6 +54,7 @@ make_deb() {
   rm -rf "$top" && mkdir -p "$top/DEBIAN" dist && rm -f "dist/$deb_name.deb"
   DESTDIR=$PWD/$top quietly "installing" cmake --install build/debian --strip || return 1
   doc=$top/usr/share/doc/stmdata
+  gzip -9n "$top/usr/share/man/man1/stmon.1"
   gzip -9n >"$doc/changelog.gz" <<CHANGELOG
 stmdata ($version) stable; urgency=medium
 

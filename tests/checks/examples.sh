@@ -12,7 +12,9 @@ check() {
   fi
 }
 
-check read_reply 'Tray id 3 holds B4 and is in use.'
+check first 'The printer says: No Paper'
+check one_poll 'Parts:   1 43 3 24 5'
+check both_records '  flat: Toner is empty.  / Add Toner. /  / <BC><B1><DD>  <CC><DE><D7><AF><B8>  '
 check every_language 'PL  Brak toneru'
 check load_at_run_time 'Status 32: No Paper'
 check print_manager 'Tray id 4: A3, 0 %, in use'
