@@ -95,8 +95,6 @@ def convert(path):
             banner = re.match(r"^-{4} (.*?) -*$", text[0])
             if i == 0:
                 out.append(document(["@@file"] + text).replace(r"\@\@", "@"))
-                if path.endswith("/stmdata.h"):
-                    out.append(document(["@@mainpage"] + text).replace(r"\@\@", "@"))
             elif banner:
                 out += ["/**@}*/"] if in_section else []
                 out += [document([f"@@name {banner[1]}", ""] + text[1:]).replace(r"\@\@", "@"), "/**@{*/"]
