@@ -18,13 +18,17 @@ constexpr Language kLanguages[] = {
     {"HU", 1250}, {"PT", 1252}, {"PL", 1250}, {"FI", 1252}, {"JP", 932},
 };
 
-// The library's texts have no characters beyond U+FFFF.
-std::string Utf8(const std::string& text, UINT codePage) {
+std::vector<WCHAR> Utf16(const std::string& text, UINT codePage) {
   const int length = MultiByteToWideChar(codePage, 0, text.c_str(), -1, nullptr, 0);
   std::vector<WCHAR> units(length > 0 ? length : 1);
   MultiByteToWideChar(codePage, 0, text.c_str(), -1, units.data(), length);
+  return units;
+}
+
+// The library's texts have no characters beyond U+FFFF.
+std::string Utf8(const std::string& text, UINT codePage) {
   std::string out;
-  for (const WCHAR unit : units) {
+  for (const WCHAR unit : Utf16(text, codePage)) {
     if (unit == 0) break;
     if (unit < 0x80) {
       out += static_cast<char>(unit);
