@@ -241,13 +241,15 @@ int WatchOn(const Options& options, const Target& target, const std::string& nam
   while (true) {
     const Snapshot snapshot = AskNetwork(options, target, name);
     const bool first = IsGood(snapshot) && !watch.good;
+    const bool was_silent = watch.failures > 0;
     if (IsGood(snapshot)) last_answer = snapshot.when;
     const auto events = Observe(watch, snapshot, std::chrono::steady_clock::now());
-    if (first) Print(options.json ? JsonReport(snapshot) : TextReport(snapshot) + "\n");
     for (const Event& event : events) {
-      if (event.kind == EventKind::First && watch.failures == 0 && first) continue;
+      // A printer that answers at once needs no line before its first report.
+      if (event.kind == EventKind::First && !was_silent) continue;
       Print(options.json ? EventJson(event, snapshot) : EventText(event, snapshot));
     }
+    if (first) Print(options.json ? JsonReport(snapshot) : TextReport(snapshot) + "\n");
     if (options.raw && !events.empty()) Print(RawReport(snapshot));
     // A file that cannot be written from the start is a mistake; later the disk may be full a
     // while.

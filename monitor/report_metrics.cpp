@@ -39,14 +39,10 @@ void Single(Writer& writer, const char* name, const char* help, const std::strin
   Sample(writer, name, "", value);
 }
 
-std::string Seconds(double seconds) {
+std::string Seconds(std::chrono::duration<double> time) {
   char text[32];
-  std::snprintf(text, sizeof text, "%.3f", seconds);
+  std::snprintf(text, sizeof text, "%.3f", time.count());
   return text;
-}
-
-double SinceEpoch(std::chrono::system_clock::time_point when) {
-  return std::chrono::duration<double>(when.time_since_epoch()).count();
 }
 
 void AddConditions(Writer& writer, const Snapshot& snapshot) {
@@ -85,14 +81,14 @@ std::string MetricsReport(const Snapshot& snapshot,
          "0 fine, 1 needs attention soon, 2 cannot print, 3 unknown or no response.",
          std::to_string(static_cast<int>(snapshot.verdict)));
   Single(writer, "stmon_poll_duration_seconds", "How long the latest poll took.",
-         Seconds(std::chrono::duration<double>(snapshot.took).count()));
+         Seconds(snapshot.took));
   if (last_answer) {
     Single(writer, "stmon_last_answer_timestamp_seconds",
            "When the printer last answered, in seconds since 1970.",
-           Seconds(SinceEpoch(*last_answer)));
+           Seconds(last_answer->time_since_epoch()));
     Single(writer, "stmon_last_answer_age_seconds",
            "Age of the last good answer when this was written.",
-           Seconds(SinceEpoch(snapshot.when) - SinceEpoch(*last_answer)));
+           Seconds(snapshot.when - *last_answer));
   }
   if (!up) return writer.text;
   Single(writer, "stmon_online", "1 when the printer says that it is online.",

@@ -14,14 +14,9 @@ namespace {
 // The parts of a group by name or number, each as a text for people.
 using Parts = std::map<std::string, std::string>;
 
-// "Online/Ready" alone does not tell one reminder from another.
+// The headline alone; reminders under the same headline are told as conditions.
 Parts StatusParts(const Snapshot& snapshot) {
-  std::string text = StatusText(snapshot);
-  for (const Condition& condition : snapshot.conditions) {
-    const bool reminder = condition.reason->severity == Severity::Warning;
-    if (condition.rank == 1 && reminder) text += ", " + ConditionText(condition);
-  }
-  return {{"", text}};
+  return {{"", StatusText(snapshot)}};
 }
 
 Parts StateParts(const Snapshot& snapshot) {
@@ -155,6 +150,11 @@ const char* KindWord(EventKind kind) {
   return "back";
 }
 
+std::optional<std::chrono::system_clock::time_point> LastAnswer(const Watch& watch) {
+  if (!watch.good) return {};
+  return watch.good->when;
+}
+
 std::vector<Event> ObserveFailure(Watch& watch, const Snapshot& latest, SteadyTime now) {
   const bool news = watch.failures == 0 || watch.failing != latest.exchange.outcome;
   ++watch.failures;
@@ -162,7 +162,7 @@ std::vector<Event> ObserveFailure(Watch& watch, const Snapshot& latest, SteadyTi
   if (!news) return {};
   std::string from = "never answered so far";
   if (watch.good) from = "last answer " + AgeText(now - watch.good_at) + " ago";
-  return {{EventKind::Lost, "printer", from, latest.trouble, {}}};
+  return {{EventKind::Lost, "printer", from, latest.trouble, {}, LastAnswer(watch)}};
 }
 
 }  // namespace
@@ -177,9 +177,10 @@ std::vector<Event> Observe(Watch& watch, const Snapshot& latest, SteadyTime now)
     if (watch.failures > 0) {
       events.push_back({EventKind::Back,
                         "printer",
-                        "no answer for " + AgeText(now - watch.good_at),
+                        "no usable answer for " + AgeText(now - watch.good_at),
                         StatusText(latest),
-                        {}});
+                        {},
+                        LastAnswer(watch)});
     }
     for (const Group& group : kGroups)
       AddGroup(events, group, *watch.good, latest);
@@ -211,7 +212,7 @@ std::string EventText(const Event& event, const Snapshot& latest) {
   line.append(event.group.size() < 12 ? 12 - event.group.size() : 1, ' ');
   switch (event.kind) {
     case EventKind::First:
-      return line + event.to + "\n";
+      return line + "answers for the first time: " + event.to + "\n";
     case EventKind::Changed:
       return line + event.from + " -> " + event.to + "\n";
     case EventKind::Came:
@@ -219,7 +220,7 @@ std::string EventText(const Event& event, const Snapshot& latest) {
     case EventKind::Went:
       return line + "- " + event.from + "\n";
     case EventKind::Lost:
-      return line + "does not answer (" + event.from + "): " + event.to + "\n";
+      return line + "no usable answer (" + event.from + "): " + event.to + "\n";
     case EventKind::Back:
       return line + "answers again (" + event.from + "): " + event.to + "\n";
   }
@@ -240,6 +241,7 @@ std::string EventJson(const Event& event, const Snapshot& latest) {
     json["reason"] = Keyword(reason);
     json["severity"] = SeverityWord(reason.severity);
   }
+  if (event.last_answer) json["last_answer"] = UtcText(*event.last_answer);
   if (event.kind == EventKind::Lost) json["outcome"] = OutcomeWord(latest.exchange.outcome);
   json["exit_status"] = static_cast<int>(latest.verdict);
   return json.dump() + "\n";

@@ -20,6 +20,8 @@ struct Event {
   std::string from;              // for people; empty for what came
   std::string to;                // for people; empty for what went
   std::optional<uint32_t> code;  // of a condition
+  // Of a printer that fell silent or is back: when the last whole answer came, if one did.
+  std::optional<std::chrono::system_clock::time_point> last_answer = {};
 };
 
 struct Watch {

@@ -67,6 +67,37 @@ TEST_CASE("each poll tells what changed since the last good answer, and nothing 
   }
 }
 
+TEST_CASE("a printer that is lost and found is told with its last answer, however it failed") {
+  stmon::Watch watch;
+  const auto now = std::chrono::steady_clock::now();
+  auto good = Told("0");
+  good.when = {};
+  const auto line = [](const stmon::Event& event, const stmon::Snapshot& snapshot) {
+    const std::string text = stmon::EventText(event, snapshot);
+    return text.substr(text.find("  ") + 2);
+  };
+  CHECK(line(stmon::Observe(watch, Failed(stmon::Outcome::Refused), now)[0], good)
+            .starts_with("printer     no usable answer (never answered so far): "));
+  CHECK(line(stmon::Observe(watch, good, now)[0], good) ==
+        "printer     answers for the first time: Online/Ready\n");
+
+  const auto garbage = Failed(stmon::Outcome::NotAReply);
+  const auto lost = stmon::Observe(watch, garbage, now + 90s);
+  CHECK(
+      line(lost[0], garbage).starts_with("printer     no usable answer (last answer 90 s ago): "));
+  const std::string json = stmon::EventJson(lost[0], garbage);
+  CHECK(json.find("\"last_answer\":\"1970-01-01T00:00:00Z\",\"outcome\":\"not-a-reply\"") !=
+        std::string::npos);
+
+  const auto later = Told("65");
+  const auto found = stmon::Observe(watch, later, now + 100s);
+  CHECK(Summary(found) == "printer back, conditions came 65");
+  CHECK(line(found[0], later) ==
+        "printer     answers again (no usable answer for 100 s): Online/Ready\n");
+  CHECK(stmon::EventJson(found[0], later).find("\"last_answer\":\"1970-01-01T00:00:00Z\"") !=
+        std::string::npos);
+}
+
 TEST_CASE("polls become rarer while nothing answers") {
   stmon::Watch watch;
   CHECK(stmon::NextWait(watch, 5s) == 5s);
