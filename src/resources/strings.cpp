@@ -20,13 +20,6 @@ StringEntry FindLocalizedEntry(uint32_t id, LANGID language) {
   return FindStringEntry(block, SizeofResource(module, resource), id);
 }
 
-// 0 when the system does not know.
-UINT CodePageOf(LANGID language) {
-  char digits[256];
-  if (!GetLocaleInfoA(language, LOCALE_IDEFAULTANSICODEPAGE, digits, sizeof digits)) return 0;
-  return static_cast<UINT>(std::strtoul(digits, nullptr, 10));
-}
-
 // Converts as many characters as fit in `capacity` bytes. A character takes two bytes at most, so
 // that half of what is too much can be dropped at once without dropping too much.
 int ConvertWhatFits(UINT codePage, const StringEntry& entry, char* buffer, int capacity) {
@@ -44,8 +37,10 @@ int ConvertWhatFits(UINT codePage, const StringEntry& entry, char* buffer, int c
 
 }  // namespace
 
-uint32_t ChosenCodePage() {
-  return CodePageOf(SelectedLanguage());
+uint32_t CodePageOf(LANGID language) {
+  char digits[256];
+  if (!GetLocaleInfoA(language, LOCALE_IDEFAULTANSICODEPAGE, digits, sizeof digits)) return 0;
+  return static_cast<uint32_t>(std::strtoul(digits, nullptr, 10));
 }
 
 size_t CountWholeCharacters(uint32_t codePage, const char* text, size_t most) {
@@ -73,11 +68,14 @@ int32_t LoadModuleString(uint32_t id, char* buffer, int32_t size) {
 }
 
 uint32_t LoadLocalizedString(uint32_t id, char* buffer, int32_t size) {
+  return LoadStringIn(SelectedLanguage(), id, buffer, size);
+}
+
+uint32_t LoadStringIn(LANGID language, uint32_t id, char* buffer, int32_t size) {
   if (!buffer || size <= 0) return 0;
-  const LANGID language = SelectedLanguage();
   StringEntry entry = FindLocalizedEntry(id, language);
   if (!entry.units) return 0;
-  const UINT codePage = CodePageOf(language);
+  const uint32_t codePage = CodePageOf(language);
   if (codePage == 0) return 0;
   entry.length = std::min(entry.length, static_cast<uint32_t>(size));
   buffer[ConvertWhatFits(codePage, entry, buffer, size - 1)] = '\0';

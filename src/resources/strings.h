@@ -5,6 +5,8 @@
 #include <cstddef>
 #include <cstdint>
 
+#include "platform/windows_api.h"
+
 namespace stm {
 
 // In the thread's language and the system's code page. Result: bytes written without the
@@ -15,8 +17,11 @@ int32_t LoadModuleString(uint32_t id, char* buffer, int32_t size);
 // `buffer` untouched when the language lacks the text's block.
 uint32_t LoadLocalizedString(uint32_t id, char* buffer, int32_t size);
 
-// The code page of the texts in the chosen language; 0 when the system does not know.
-uint32_t ChosenCodePage();
+// The same in a language that the caller has asked for once, so that the pieces of an answer agree.
+uint32_t LoadStringIn(LANGID language, uint32_t id, char* buffer, int32_t size);
+
+// The code page of the texts in a language; 0 when the system does not know.
+uint32_t CodePageOf(LANGID language);
 
 // How many bytes of the whole characters at `text` stand within `most` bytes.
 size_t CountWholeCharacters(uint32_t codePage, const char* text, size_t most);

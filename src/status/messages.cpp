@@ -3,6 +3,7 @@
 #include <cstring>
 
 #include "records/item_list.h"
+#include "resources/language.h"
 #include "resources/strings.h"
 #include "status/dominant_status.h"
 #include "status/last_error.h"
@@ -15,15 +16,17 @@
 namespace stm {
 namespace {
 
-// A caller's buffer.
+// A caller's buffer, and the chosen language as it was when the question came: another thread may
+// choose another one before the answer is complete.
 struct Target {
   char* buffer;
   int32_t size;
+  LANGID language;
 };
 
 Target EmptiedTarget(char* buffer, int32_t size) {
   if (buffer && size > 0) buffer[0] = '\0';
-  return {buffer, size};
+  return {buffer, size, SelectedLanguage()};
 }
 
 // Result: 0 when the text could not be loaded.
@@ -34,7 +37,7 @@ uint32_t LoadInThreadLanguage(uint32_t id, const Target& target) {
 }
 
 uint32_t LoadInChosenLanguage(uint32_t id, const Target& target) {
-  return LoadLocalizedString(id, target.buffer, target.size);
+  return LoadStringIn(target.language, id, target.buffer, target.size);
 }
 
 uint32_t Tell(Loader load, uint32_t id, const Target& target) {
@@ -120,7 +123,7 @@ constexpr int32_t kColourNameSize = 50;
 struct Suffix {
   char text[kSuffixSize];
   size_t length;
-  uint32_t (*codePage)();
+  uint32_t codePage;
 };
 
 // A name for which there is no room is left out whole.
@@ -141,7 +144,7 @@ uint32_t ColourOf(uint32_t tonerCode) {
 
 // A line of its own with a name for each code, in the order of the codes.
 Suffix FlatSuffix(const Statement& statement) {
-  Suffix suffix{{}, 0, [] { return kFlatNamesCodePage; }};
+  Suffix suffix{{}, 0, kFlatNamesCodePage};
   if (!IsTonerCode(statement.code)) return suffix;
   AddToSuffix(suffix, "\n");
   for (uint32_t i = 0; i < statement.count; ++i) {
@@ -152,8 +155,8 @@ Suffix FlatSuffix(const Statement& statement) {
 }
 
 // Each colour once, in the order of the colours; the text before it ends its line itself.
-Suffix ListSuffix(const Statement& statement) {
-  Suffix suffix{{}, 0, ChosenCodePage};
+Suffix ListSuffix(const Statement& statement, LANGID language) {
+  Suffix suffix{};
   bool flagged[kColours] = {};
   for (uint32_t i = 0; i < statement.count; ++i) {
     if (IsTonerCode(statement.codes[i])) flagged[ColourOf(statement.codes[i])] = true;
@@ -161,9 +164,10 @@ Suffix ListSuffix(const Statement& statement) {
   for (uint32_t colour = 0; colour < kColours; ++colour) {
     char name[kColourNameSize];
     if (flagged[colour] &&
-        LoadLocalizedString(kColourNames[colour].messageId, name, kColourNameSize))
+        LoadStringIn(language, kColourNames[colour].messageId, name, kColourNameSize))
       AddToSuffix(suffix, name);
   }
+  if (suffix.length > 0) suffix.codePage = CodePageOf(language);
   return suffix;
 }
 
@@ -173,7 +177,7 @@ void AppendSuffix(const Suffix& suffix, const Target& target) {
   const size_t room = static_cast<size_t>(target.size) - length - 1;
   const size_t kept = suffix.length <= room
                           ? suffix.length
-                          : CountWholeCharacters(suffix.codePage(), suffix.text, room);
+                          : CountWholeCharacters(suffix.codePage, suffix.text, room);
   std::memcpy(target.buffer + length, suffix.text, kept);
   target.buffer[length + kept] = '\0';
 }
@@ -185,7 +189,8 @@ bool WasCut(const Statement& statement, uint32_t id, const Target& target) {
   const size_t length = std::strlen(target.buffer);
   if (length + 2 != static_cast<size_t>(target.size)) return false;
   char whole[kRoomForAnyText];
-  return statement.load(id, {whole, kRoomForAnyText}) && std::strlen(whole) > length;
+  return statement.load(id, {whole, kRoomForAnyText, target.language}) &&
+         std::strlen(whole) > length;
 }
 
 // A code without a row has a text, but no suffix.
@@ -267,7 +272,7 @@ uint32_t DetailOf(const PrnInfoEx& info, const Target& target) {
       return 1;
     }
   }
-  return TellDetail(statement, ListSuffix(statement), target);
+  return TellDetail(statement, ListSuffix(statement, target.language), target);
 }
 
 uint32_t RecoveryCode(const PrnInfo& info) {
