@@ -3,10 +3,10 @@
 #include "picture/composition.h"
 
 #include <algorithm>
-#include <atomic>
 #include <cstring>
 
 #include "picture/composition_tables.h"
+#include "platform/shared_value.h"
 #include "records/item_list.h"
 #include "status/dominant_status.h"
 #include "status/last_error.h"
@@ -47,9 +47,9 @@ void RememberPartList(const uint8_t* codes) {
       uint32_t four;
       std::memcpy(&four, codes, 4);
       codes += 4;
-      word.store(four, std::memory_order_release);
+      SetShared(word, four, std::memory_order_release);
     }
-    list.version.store(version + 2, std::memory_order_release);
+    SetShared(list.version, version + 2, std::memory_order_release);
     // Where another composition got ahead meanwhile, that one is the latest.
     latestTicket.compare_exchange_strong(latest, ticket, std::memory_order_acq_rel);
     return;

@@ -1,8 +1,8 @@
 #include "records/reply.h"
 
-#include <atomic>
 #include <cstring>
 
+#include "platform/shared_value.h"
 #include "records/configuration_blocks.h"
 #include "records/option_blocks.h"
 #include "records/paper_blocks.h"
@@ -102,7 +102,7 @@ uint32_t LastParseFlags() {
 
 uint32_t STM_CALL SetPrnInfoExFromReadbackCmd(PrnInfoEx* record, const char* reply,
                                               int32_t length) {
-  stm::lastParseFlags.store(0, std::memory_order_relaxed);
+  stm::SetShared(stm::lastParseFlags, 0u);
   if (!record || !reply) return 0;
   if (length <= 0) return 1;
   const stm::Input input{reply, reply + length};

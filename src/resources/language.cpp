@@ -1,8 +1,8 @@
 #include "resources/language.h"
 
-#include <atomic>
 #include <cstring>
 
+#include "platform/shared_value.h"
 #include "stmdata/stmdata.h"
 
 namespace stm {
@@ -57,7 +57,7 @@ uint32_t STM_CALL PatSetLocale(char* name) {
   if (!name) return 0;
   CharUpperA(name);
   const stm::LocaleRow& row = stm::FindLocale(name);
-  stm::selectedLanguage.store(static_cast<LANGID>(row.subLanguageId << 10 | row.languageId),
-                              std::memory_order_relaxed);
+  const auto language = static_cast<LANGID>(row.subLanguageId << 10 | row.languageId);
+  stm::SetShared(stm::selectedLanguage, language);
   return 1;
 }

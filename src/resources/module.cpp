@@ -1,7 +1,6 @@
 #include "resources/module.h"
 
-#include <atomic>
-
+#include "platform/shared_value.h"
 #include "stmdata/stmdata.h"
 
 namespace {
@@ -16,6 +15,6 @@ HINSTANCE stm::ModuleHandle() {
 }
 
 extern "C" BOOL STM_CALL DllMain(HINSTANCE module, DWORD reason, void*) {
-  if (reason == kProcessAttach) moduleHandle.store(module, std::memory_order_relaxed);
+  if (reason == kProcessAttach) stm::SetShared(moduleHandle, module);
   return 1;
 }

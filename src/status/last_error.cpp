@@ -1,7 +1,6 @@
 #include "status/last_error.h"
 
-#include <atomic>
-
+#include "platform/shared_value.h"
 #include "stmdata/stmdata.h"
 
 namespace {
@@ -9,7 +8,7 @@ std::atomic<uint32_t> lastError{PatErrorNone};
 }
 
 void stm::SetPatError(uint32_t error) {
-  lastError.store(error, std::memory_order_relaxed);
+  SetShared(lastError, error);
 }
 
 uint32_t STM_CALL PatGetError(void) {

@@ -45,6 +45,9 @@ const char* EnvironmentLocale() {
 
 thread_local LANGID chosenLanguage = kNeutral;
 
+// Read when the library is loaded: a program's threads may change the environment later.
+const LANGID environmentLanguage = LanguageOfLocale(EnvironmentLocale());
+
 }  // namespace
 
 LANGID LanguageOfLocale(const char* locale) {
@@ -56,8 +59,7 @@ LANGID LanguageOfLocale(const char* locale) {
 }
 
 LANGID EnvironmentLanguage() {
-  static const LANGID language = LanguageOfLocale(EnvironmentLocale());
-  return language;
+  return environmentLanguage;
 }
 
 }  // namespace stm

@@ -98,17 +98,17 @@ bool Before(const Entry& left, const Entry& right) {
   return byName ? byName < 0 : left.language < right.language;
 }
 
-const Index& ResourceIndex() {
-  static const Index index = [] {
-    Index made{};
-    const unsigned char* at = stmResourceImage;
-    while (at < stmResourceImageEnd && made.count < kMostEntries)
-      at = ReadEntry(at, &made.entries[made.count++]);
-    std::sort(made.entries, made.entries + made.count, Before);
-    return made;
-  }();
-  return index;
+Index ReadImage() {
+  Index made{};
+  const unsigned char* at = stmResourceImage;
+  while (at < stmResourceImageEnd && made.count < kMostEntries)
+    at = ReadEntry(at, &made.entries[made.count++]);
+  std::sort(made.entries, made.entries + made.count, Before);
+  return made;
 }
+
+// Made when the library is loaded, before there are threads.
+const Index imageIndex = ReadImage();
 
 // A caller's type or name as a label; strings longer than any in the image match none.
 constexpr size_t kLongestAsked = 64;
@@ -143,9 +143,8 @@ void ReadAsked(const char* name, AskedLabel* asked) {
 // The first entry of the type and name whose language is `language` or comes after it, or null.
 const Entry* FindFrom(Entry asked, LANGID language) {
   asked.language = language;
-  const Index& index = ResourceIndex();
-  const Entry* end = index.entries + index.count;
-  const Entry* entry = std::lower_bound(index.entries, end, asked, Before);
+  const Entry* end = imageIndex.entries + imageIndex.count;
+  const Entry* entry = std::lower_bound(imageIndex.entries, end, asked, Before);
   return entry != end && CompareNames(*entry, asked) == 0 ? entry : nullptr;
 }
 
@@ -175,10 +174,10 @@ HRSRC FailWith(DWORD systemError) {
 
 // The entry that a caller's handle stands for; null when it is none of ours.
 const Entry* EntryOf(HRSRC resource) {
-  const Index& index = ResourceIndex();
-  const auto offset = reinterpret_cast<uintptr_t>(resource) - reinterpret_cast<uintptr_t>(&index);
-  if (offset >= index.count * sizeof(Entry) || offset % sizeof(Entry) != 0) return nullptr;
-  return &index.entries[offset / sizeof(Entry)];
+  const auto offset =
+      reinterpret_cast<uintptr_t>(resource) - reinterpret_cast<uintptr_t>(&imageIndex);
+  if (offset >= imageIndex.count * sizeof(Entry) || offset % sizeof(Entry) != 0) return nullptr;
+  return &imageIndex.entries[offset / sizeof(Entry)];
 }
 
 }  // namespace
