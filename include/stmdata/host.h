@@ -66,8 +66,9 @@ STM_HOST_API HGLOBAL STM_CALL GlobalAlloc(UINT flags, uint32_t bytes);
 STM_HOST_API HGLOBAL STM_CALL GlobalFree(HGLOBAL block);
 
 /* ---- Bitmaps and icons -----------------------------------------------------------------------
-   What PatLoadBitmap and PatLoadIcon hand out. Handles of windows, bitmaps and icons are numbers,
-   not addresses: a null, foreign or released one is refused. A process can have 4096 at a time. */
+   What PatLoadBitmap and PatLoadIcon hand out. Handles of windows and bitmaps are numbers, not
+   addresses: a null, foreign or released one is refused. A process can have 4096 at a time. Icons
+   are shared and not released. */
 
 /* Raster operations of PrnPart: what becomes of a destination pixel. */
 #define SRCCOPY 0x00CC0020u    /* source */

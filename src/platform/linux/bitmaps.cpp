@@ -20,11 +20,13 @@ HGDIOBJ StockBitmap() {
   return reinterpret_cast<HGDIOBJ>(kStockHandle);
 }
 
+Bytes BytesOf(HRSRC resource) {
+  return {static_cast<const uint8_t*>(LockResource(LoadResource(nullptr, resource))),
+          SizeofResource(nullptr, resource)};
+}
+
 Bytes ResourceBytes(HINSTANCE module, const char* name, const char* type) {
-  const HRSRC found = name ? FindResourceA(module, name, type) : nullptr;
-  if (!found) return {nullptr, 0};
-  return {static_cast<const uint8_t*>(LockResource(LoadResource(module, found))),
-          SizeofResource(module, found)};
+  return BytesOf(name ? FindResourceA(module, name, type) : nullptr);
 }
 
 }  // namespace stm

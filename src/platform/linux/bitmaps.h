@@ -17,11 +17,12 @@ struct Bitmap : Object {
 Bitmap* FindBitmap(const void* handle);
 HGDIOBJ StockBitmap();
 
-// The bytes of a resource, null and 0 when the module has none of that name.
+// The bytes of a resource, null and 0 when the module has none with this handle, or of this name.
 struct Bytes {
   const uint8_t* data;
   uint32_t size;
 };
+Bytes BytesOf(HRSRC resource);
 Bytes ResourceBytes(HINSTANCE module, const char* name, const char* type);
 
 }  // namespace stm

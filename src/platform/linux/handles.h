@@ -1,4 +1,4 @@
-// Handles of windows, device contexts, bitmaps and icons. A handle is a number that names a place
+// Handles of windows, device contexts and bitmaps. A handle is a number that names a place
 // in one table and the entry that was made there. The table itself knows the number and the kind,
 // so that null, foreign and released handles are told from good ones without touching an object.
 #pragma once
@@ -9,7 +9,7 @@
 
 namespace stm {
 
-enum class Kind : uint32_t { Bitmap, Icon, WindowContext, MemoryContext, Dialog, Picture };
+enum class Kind : uint32_t { Bitmap, WindowContext, MemoryContext, Dialog, Picture };
 
 // The head of every object. Objects are zero-filled global memory blocks.
 struct Object {

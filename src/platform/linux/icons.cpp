@@ -1,19 +1,19 @@
 // Icons: a group names its image, and the image is a bitmap of colours with a mask of one bit a
 // pixel behind it, 1 where the icon is transparent.
-#include <atomic>
-
 #include "platform/linux/bitmaps.h"
 
 namespace {
 
-struct Icon : stm::Object {
-  static constexpr stm::Kind kKind = stm::Kind::Icon;
+struct Icon {
   stm::Dib colors;
   const uint8_t* mask;
 };
 
-// A group is a header of 6 bytes and a row of 14 bytes an image, which ends with the image's id.
+//   reserved:2 kind:2 count:2, then a row of 14 bytes an image, which ends with the image's id
+//   00 00 01 00 01 00
 // The library's groups have one image each, and it is the one that is taken.
+constexpr uint32_t kGroupKind = 1;
+constexpr uint32_t kGroupKindAt = 2;
 constexpr uint32_t kGroupIdAt = 6 + 12;
 constexpr uint32_t kGroupSize = kGroupIdAt + 2;
 
@@ -22,7 +22,7 @@ uint32_t MaskStride(const stm::Dib& colors) {
 }
 
 // The header counts the rows of colours and mask together. Images with bytes missing are refused.
-bool ReadIcon(const stm::Bytes& bytes, Icon* icon) {
+bool ReadImage(const stm::Bytes& bytes, Icon* icon) {
   stm::Dib dib;
   if (!stm::ReadDib(bytes.data, bytes.size, &dib)) return false;
   if (dib.compression != stm::DibPlain || dib.topDown || dib.height % 2 != 0) return false;
@@ -42,29 +42,13 @@ bool IsTransparent(const Icon& icon, int32_t x, int32_t y) {
   return icon.mask[row * MaskStride(icon.colors) + static_cast<uint32_t>(x) / 8] >> (7 - x % 8) & 1;
 }
 
-// Loaded icons are shared and live as long as the process. They fill the places from the first on,
-// as many as the library has icons.
-constexpr uint32_t kMostIcons = 16;
-std::atomic<Icon*> loadedIcons[kMostIcons];
-
-// The mask tells which icon it is. Threads that load the same icon at once meet at the same empty
-// place: one of them enters its own, which is complete by then, and the others take that one.
-const Icon* SharedIcon(const Icon& read) {
-  Icon* own = nullptr;
-  for (std::atomic<Icon*>& place : loadedIcons) {
-    Icon* icon = place.load(std::memory_order_acquire);
-    if (!icon) {
-      if (!own && !(own = stm::NewObject<Icon>())) return nullptr;
-      own->colors = read.colors;
-      own->mask = read.mask;
-      if (place.compare_exchange_strong(icon, own, std::memory_order_acq_rel)) return own;
-    }
-    if (icon->mask != read.mask) continue;
-    if (own) stm::ReleaseObject(own);
-    return icon;
-  }
-  if (own) stm::ReleaseObject(own);
-  return nullptr;
+// An icon's handle is that of its group among the resources: an icon is the same for everybody, and
+// there as long as the library is.
+bool ReadIcon(HRSRC handle, Icon* icon) {
+  const stm::Bytes group = stm::BytesOf(handle);
+  if (group.size < kGroupSize || group.data[kGroupKindAt] != kGroupKind) return false;
+  const auto id = static_cast<uint16_t>(group.data[kGroupIdAt] | group.data[kGroupIdAt + 1] << 8);
+  return ReadImage(stm::ResourceBytes(nullptr, MAKEINTRESOURCEA(id), RT_ICON), icon);
 }
 
 }  // namespace
@@ -72,27 +56,24 @@ const Icon* SharedIcon(const Icon& read) {
 extern "C" {
 
 HICON STM_CALL LoadIconA(HINSTANCE module, const char* name) {
-  const stm::Bytes group = stm::ResourceBytes(module, name, RT_GROUP_ICON);
-  if (group.size < kGroupSize) return nullptr;
-  const auto id = static_cast<uint16_t>(group.data[kGroupIdAt] | group.data[kGroupIdAt + 1] << 8);
-  Icon read{};
-  if (!ReadIcon(stm::ResourceBytes(module, MAKEINTRESOURCEA(id), RT_ICON), &read)) return nullptr;
-  return stm::HandleOf<HICON>(SharedIcon(read));
+  const HRSRC group = name ? FindResourceA(module, name, RT_GROUP_ICON) : nullptr;
+  Icon icon;
+  return ReadIcon(group, &icon) ? reinterpret_cast<HICON>(group) : nullptr;
 }
 
 BOOL STM_CALL HostReadIcon(HICON handle, uint32_t* pixels, uint32_t count, int32_t* width,
                            int32_t* height) {
-  const Icon* icon = stm::Find<Icon>(handle);
-  if (!icon) return 0;
-  const int32_t w = icon->colors.width;
-  const int32_t h = icon->colors.height;
+  Icon icon;
+  if (!ReadIcon(reinterpret_cast<HRSRC>(handle), &icon)) return 0;
+  const int32_t w = icon.colors.width;
+  const int32_t h = icon.colors.height;
   if (width) *width = w;
   if (height) *height = h;
   if (!pixels || static_cast<uint32_t>(w) * static_cast<uint32_t>(h) > count) return 0;
-  stm::PaintDib(icon->colors, {pixels, w, h}, {0, 0, w, h, 0, 0}, SRCCOPY);
+  stm::PaintDib(icon.colors, {pixels, w, h}, {0, 0, w, h, 0, 0}, SRCCOPY);
   for (int32_t y = 0; y < h; ++y) {
     for (int32_t x = 0; x < w; ++x, ++pixels)
-      *pixels = IsTransparent(*icon, x, y) ? 0 : *pixels | 0xFF000000u;
+      *pixels = IsTransparent(icon, x, y) ? 0 : *pixels | 0xFF000000u;
   }
   return 1;
 }
