@@ -1,5 +1,6 @@
 #include "allocation_faults.h"
 
+#include <atomic>
 #include <cstdlib>
 #include <cstring>
 #include <initializer_list>
@@ -11,7 +12,7 @@ namespace {
 uint32_t untilFault = 0;  // allocations up to the failing one, 0: none fails
 bool faultsStay = false;
 bool failed = false;
-int32_t liveBlocks = 0;
+std::atomic<int32_t> liveBlocks = 0;  // threads allocate at once
 
 bool MustFail() {
   if (untilFault == 0 || --untilFault > 0) return false;

@@ -40,3 +40,20 @@ make_debian_root() {
   rm -rf "$root"
   mv "$root.new" "$root"
 }
+
+# run_in_root ROOT HOME [NAME=VALUE...] COMMAND...: runs a command inside the root, in this project's
+# folder. The mounts live in a mount namespace of this call and vanish with it.
+run_in_root() {
+  local root=$1 home=$2 here
+  shift 2
+  here=$(pwd)
+  mkdir -p "$home" "$root$here"
+  unshare --mount --propagation private bash -c '
+    root=$1 here=$2 home=$3
+    shift 3
+    mount --bind /proc "$root/proc" && mount --bind /dev "$root/dev" &&
+      mount -t tmpfs tmpfs "$root/tmp" && mkdir -p "$root$here" && mount --bind "$here" "$root$here" || exit 1
+    exec chroot "$root" env -i PATH=/usr/sbin:/usr/bin:/sbin:/bin HOME="$home" USER=root LANG=C.UTF-8 \
+      TERM=dumb CI="${CI:-}" sh -c "cd \"\$0\" && exec env \"\$@\"" "$here" "$@"
+  ' debian-root "$root" "$here" "$home" "$@"
+}

@@ -55,6 +55,45 @@ windows_programs() {
   done
 }
 
+# valgrind_checks: the test programs of the Linux build under Memcheck, which finds unset memory, wrong
+# accesses and leaks, and the tests with threads under Helgrind, which finds data races. One test each.
+valgrind_checks() {
+  local program reason
+  if ! reason=$(tools/valgrind.sh available 2>&1); then
+    [ "${CI:-}" != true ] || { count_failure "no Valgrind, and CI skips nothing: $reason"; return; }
+    skipped=$((skipped + 1))
+    say "  skipped, because $reason; run ./test as root to have them"
+    return
+  fi
+  for program in build/linux/*_tests; do
+    valgrind_check memcheck "$program" --leak-check=full
+  done
+  for program in build/linux/stmdata_tests build/linux/stmdata_inside_tests; do
+    valgrind_check helgrind "$program" -- --source-file='*threads_test.cpp'
+  done
+}
+
+# valgrind_check TOOL PROGRAM [OPTION...] [-- ARGUMENT...]
+valgrind_check() {
+  local tool=$1 program=$2 options=() log
+  shift 2
+  while [ $# -gt 0 ] && [ "$1" != -- ]; do
+    options+=("$1")
+    shift
+  done
+  shift
+  log=$(mktemp)
+  if tools/valgrind.sh run --tool="$tool" --error-exitcode=9 "${options[@]}" "$program" "$@" >"$log" 2>&1 &&
+    grep -q 'ERROR SUMMARY: 0 errors .*' "$log"; then
+    passed=$((passed + 1))
+    say "  $tool $(basename "$program"): $(sed -nE 's/.*test cases: *([0-9]+).*/\1/p' "$log") test cases, clean"
+  else
+    tail -n 60 "$log" >&2
+    count_failure "$(basename "$program") under $tool"
+  fi
+  rm -f "$log"
+}
+
 # fuzz_targets SECONDS: each target over its corpus, then onwards for so long. One test a target.
 fuzz_targets() {
   local target name log seeds scratch

@@ -17,22 +17,12 @@ packages=wine,wine32,xvfb,xauth,imagemagick,x11-utils,xdotool,fonts-wine,fonts-v
 available() { may_enter_roots "a 32-bit Wine" "$root"; }
 make_root() { make_debian_root "$root" "32-bit Wine root" "about two minutes, 1.3 GB" 1030 "$packages"; }
 
-# The mounts live in a mount namespace of this call and vanish with it. The prefix lies in the build
-# folder: checkouts do not share a Wine server.
+# The prefix lies in the build folder: checkouts do not share a Wine server.
 run() {
-  local here prefix
-  here=$(pwd)
-  prefix=$here/build/wine
-  mkdir -p "$prefix" "$root$here"
-  exec unshare --mount --propagation private bash -c '
-    root=$1 here=$2 prefix=$3
-    shift 3
-    mount --bind /proc "$root/proc" && mount --bind /dev "$root/dev" &&
-      mount -t tmpfs tmpfs "$root/tmp" && mkdir -p "$root$here" && mount --bind "$here" "$root$here" || exit 1
-    exec chroot "$root" env -i PATH=/usr/sbin:/usr/bin:/sbin:/bin HOME="$prefix" USER=root \
-      WINEPREFIX="$prefix/prefix" WINEDEBUG=-all WINEDLLOVERRIDES=mscoree,mshtml= LANG=C.UTF-8 TERM=dumb \
-      CI="${CI:-}" sh -c "cd \"\$0\" && exec \"\$@\"" "$here" "$@"
-  ' wine-root "$root" "$here" "$prefix" "$@"
+  local home
+  home=$(pwd)/build/wine
+  run_in_root "$root" "$home" WINEPREFIX="$home/prefix" WINEDEBUG=-all \
+    WINEDLLOVERRIDES=mscoree,mshtml= "$@"
 }
 
 case "${1:-}" in

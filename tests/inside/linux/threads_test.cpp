@@ -1,32 +1,15 @@
 #include <algorithm>
 #include <array>
 #include <atomic>
-#include <thread>
-#include <vector>
 
 #include "doctest/doctest.h"
 #include "picture/composition.h"
+#include "run_together.h"
 #include "stmdata/stmdata.h"
 
 namespace {
 
 constexpr size_t kThreads = 4;
-
-// Runs the body in several threads that start together.
-template <class Body>
-void RunTogether(Body body) {
-  std::atomic<size_t> waiting{kThreads};
-  std::vector<std::thread> threads;
-  for (size_t i = 0; i < kThreads; ++i) {
-    threads.emplace_back([&, i] {
-      for (--waiting; waiting != 0;) {
-      }
-      body(i);
-    });
-  }
-  for (std::thread& thread : threads)
-    thread.join();
-}
 
 }  // namespace
 
@@ -34,7 +17,7 @@ TEST_CASE("threads that load the same icons at once share them") {
   const char* const names[] = {"ICO_ONLINE", "ICO_OFFLINE", "ICO_WARMUP", "ICO_ERR_COVER",
                                "ICO_PAP_0",  "ICO_PAP_25",  "ICO_PAP_50", "ICO_PAP_75"};
   std::array<std::array<HICON, std::size(names)>, kThreads> icons{};
-  RunTogether([&](size_t thread) {
+  test::RunTogether(kThreads, [&](size_t thread) {
     for (size_t i = 0; i < std::size(names); ++i)
       icons[thread][i] = PatLoadIcon(names[i]);
   });
@@ -58,7 +41,7 @@ TEST_CASE("compositions at once never mix their part lists") {
     CHECK(stm::LastPartList() == lists[i]);
   }
   const auto wanted = lists;
-  RunTogether([&](size_t thread) {
+  test::RunTogether(kThreads, [&](size_t thread) {
     for (int round = 0; round < 20000; ++round) {
       compose(thread);
       const stm::PartList last = stm::LastPartList();
