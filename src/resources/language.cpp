@@ -1,5 +1,6 @@
 #include "resources/language.h"
 
+#include <cstdlib>
 #include <cstring>
 
 #include "platform/shared_value.h"
@@ -35,8 +36,9 @@ constexpr LocaleRow kLocaleTable[] = {
 };
 constexpr const LocaleRow& kEnglish = kLocaleTable[0];
 
-// One value, so that no reader meets the language of one call with the sublanguage of another.
-std::atomic<LANGID> selectedLanguage{0};
+// The language, and above it its code page, which is asked for once. One value, so that no reader
+// meets parts of two calls.
+std::atomic<uint32_t> selectedLocale{0};
 
 const LocaleRow& FindLocale(const char* name) {
   const LocaleRow* row = kLocaleTable;
@@ -45,10 +47,23 @@ const LocaleRow& FindLocale(const char* name) {
   return row->languageId ? *row : kEnglish;
 }
 
+UINT AskCodePage(LANGID language) {
+  char digits[256];
+  if (!GetLocaleInfoA(language, LOCALE_IDEFAULTANSICODEPAGE, digits, sizeof digits)) return 0;
+  return static_cast<UINT>(std::strtoul(digits, nullptr, 10));
+}
+
 }  // namespace
 
 LANGID SelectedLanguage() {
-  return selectedLanguage.load(std::memory_order_relaxed);
+  return static_cast<LANGID>(selectedLocale.load(std::memory_order_relaxed));
+}
+
+// What the neutral language means changes with the thread, and so does its code page.
+UINT CodePageOf(LANGID language) {
+  const uint32_t selected = selectedLocale.load(std::memory_order_relaxed);
+  const bool known = language != 0 && language == static_cast<LANGID>(selected);
+  return known ? selected >> 16 : AskCodePage(language);
 }
 
 }  // namespace stm
@@ -58,6 +73,6 @@ uint32_t STM_CALL PatSetLocale(char* name) {
   CharUpperA(name);
   const stm::LocaleRow& row = stm::FindLocale(name);
   const auto language = static_cast<LANGID>(row.subLanguageId << 10 | row.languageId);
-  stm::SetShared(stm::selectedLanguage, language);
+  stm::SetShared(stm::selectedLocale, stm::AskCodePage(language) << 16 | language);
   return 1;
 }

@@ -8,4 +8,7 @@ namespace stm {
 // 0, the neutral language, until PatSetLocale was called: the system then takes the thread's.
 LANGID SelectedLanguage();
 
+// The ANSI code page that the system gives a language; 0 when it does not know.
+UINT CodePageOf(LANGID language);
+
 }  // namespace stm

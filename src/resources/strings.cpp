@@ -1,7 +1,6 @@
 #include "resources/strings.h"
 
 #include <algorithm>
-#include <cstdlib>
 
 #include "platform/string_block.h"
 #include "platform/windows_api.h"
@@ -37,12 +36,6 @@ int ConvertWhatFits(UINT codePage, const StringEntry& entry, char* buffer, int c
 
 }  // namespace
 
-uint32_t CodePageOf(LANGID language) {
-  char digits[256];
-  if (!GetLocaleInfoA(language, LOCALE_IDEFAULTANSICODEPAGE, digits, sizeof digits)) return 0;
-  return static_cast<uint32_t>(std::strtoul(digits, nullptr, 10));
-}
-
 size_t CountWholeCharacters(uint32_t codePage, const char* text, size_t most) {
   size_t at = 0;
   while (at < most) {
@@ -75,7 +68,7 @@ uint32_t LoadStringIn(LANGID language, uint32_t id, char* buffer, int32_t size) 
   if (!buffer || size <= 0) return 0;
   StringEntry entry = FindLocalizedEntry(id, language);
   if (!entry.units) return 0;
-  const uint32_t codePage = CodePageOf(language);
+  const UINT codePage = CodePageOf(language);
   if (codePage == 0) return 0;
   entry.length = std::min(entry.length, static_cast<uint32_t>(size));
   buffer[ConvertWhatFits(codePage, entry, buffer, size - 1)] = '\0';

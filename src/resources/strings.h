@@ -20,9 +20,6 @@ uint32_t LoadLocalizedString(uint32_t id, char* buffer, int32_t size);
 // The same in a language that the caller has asked for once, so that the pieces of an answer agree.
 uint32_t LoadStringIn(LANGID language, uint32_t id, char* buffer, int32_t size);
 
-// The code page of the texts in a language; 0 when the system does not know.
-uint32_t CodePageOf(LANGID language);
-
 // How many bytes of the whole characters at `text` stand within `most` bytes.
 size_t CountWholeCharacters(uint32_t codePage, const char* text, size_t most);
 
