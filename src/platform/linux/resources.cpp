@@ -18,12 +18,18 @@ namespace {
 // A type or a name: a 16-bit id, or a string in capitals.
 struct Label {
   const unsigned char* text;  // UTF-16, terminated; null for an id
-  uint16_t id;
+  uint16_t id;                // 0 for a string
+};
+
+// What a resource is called.
+struct Title {
+  uint32_t ids;  // of type and name, so that most titles are told apart by one comparison
+  const unsigned char* typeText;
+  const unsigned char* nameText;
 };
 
 struct Entry {
-  Label type;
-  Label name;
+  Title title;
   LANGID language;
   const unsigned char* data;
   uint32_t size;
@@ -62,40 +68,41 @@ Label ReadLabel(const unsigned char*& at) {
   return label;
 }
 
+Title TitleOf(const Label& type, const Label& name) {
+  return {uint32_t{type.id} << 16 | name.id, type.text, name.text};
+}
+
 //   data size:4 header size:4 type name (to 4) version:4 flags:2 language:2 ... | data (to 4)
 const unsigned char* ReadEntry(const unsigned char* at, Entry* entry) {
   const auto dataSize = Get<uint32_t>(at);
   const auto headerSize = Get<uint32_t>(at + 4);
   const unsigned char* cursor = at + 8;
-  entry->type = ReadLabel(cursor);
-  entry->name = ReadLabel(cursor);
+  const Label type = ReadLabel(cursor);
+  entry->title = TitleOf(type, ReadLabel(cursor));
   entry->language = Get<LANGID>(Align(cursor) + 6);
   entry->data = at + headerSize;
   entry->size = dataSize;
   return Align(entry->data + dataSize);
 }
 
-// Ids come after strings; the look-up needs an order, not a particular one.
-int Compare(const Label& left, const Label& right) {
-  if (!left.text || !right.text) {
-    if (left.text || right.text) return left.text ? -1 : 1;
-    return left.id - right.id;
-  }
-  const unsigned char* l = left.text;
-  const unsigned char* r = right.text;
-  while (Get<uint16_t>(l) == Get<uint16_t>(r) && Get<uint16_t>(l) != 0)
-    l += 2, r += 2;
-  return Get<uint16_t>(l) - Get<uint16_t>(r);
+// Ids come before strings; the look-up needs an order, not a particular one.
+int CompareTexts(const unsigned char* left, const unsigned char* right) {
+  if (left == right) return 0;
+  if (!left || !right) return left ? 1 : -1;
+  while (Get<uint16_t>(left) == Get<uint16_t>(right) && Get<uint16_t>(left) != 0)
+    left += 2, right += 2;
+  return Get<uint16_t>(left) - Get<uint16_t>(right);
 }
 
-int CompareNames(const Entry& left, const Entry& right) {
-  const int byType = Compare(left.type, right.type);
-  return byType ? byType : Compare(left.name, right.name);
+int Compare(const Title& left, const Title& right) {
+  if (left.ids != right.ids) return left.ids < right.ids ? -1 : 1;
+  const int byType = CompareTexts(left.typeText, right.typeText);
+  return byType ? byType : CompareTexts(left.nameText, right.nameText);
 }
 
 bool Before(const Entry& left, const Entry& right) {
-  const int byName = CompareNames(left, right);
-  return byName ? byName < 0 : left.language < right.language;
+  const int byTitle = Compare(left.title, right.title);
+  return byTitle ? byTitle < 0 : left.language < right.language;
 }
 
 Index ReadImage() {
@@ -140,12 +147,12 @@ void ReadAsked(const char* name, AskedLabel* asked) {
   }
 }
 
-// The first entry of the type and name whose language is `language` or comes after it, or null.
+// The first entry of the title whose language is `language` or comes after it, or null.
 const Entry* FindFrom(Entry asked, LANGID language) {
   asked.language = language;
   const Entry* end = imageIndex.entries + imageIndex.count;
   const Entry* entry = std::lower_bound(imageIndex.entries, end, asked, Before);
-  return entry != end && CompareNames(*entry, asked) == 0 ? entry : nullptr;
+  return entry != end && Compare(entry->title, asked.title) == 0 ? entry : nullptr;
 }
 
 const Entry* FindOneOf(const Entry& asked, std::initializer_list<LANGID> languages) {
@@ -191,7 +198,7 @@ HRSRC STM_CALL FindResourceExA(HINSTANCE, const char* type, const char* name, LA
   AskedLabel askedName;
   ReadAsked(type, &askedType);
   ReadAsked(name, &askedName);
-  const Entry asked{askedType.label, askedName.label, 0, nullptr, 0};
+  const Entry asked{TitleOf(askedType.label, askedName.label), 0, nullptr, 0};
 
   const Entry* entry = ChooseLanguage(asked, language);
   if (!entry)
