@@ -1,5 +1,6 @@
 #include "status/dominant_status.h"
 
+#include "status/code_index.h"
 #include "status/priority_table.h"
 #include "status/record_view.h"
 
@@ -8,11 +9,8 @@ namespace {
 
 // The row of a listed code, or the closing row.
 uint32_t FindPriorityRow(uint32_t code) {
-  const uint32_t sought = FoldServiceCall(code);
-  uint32_t row = 0;
-  while (row < kPriorityRows && kPriorityTable[row].code != sought)
-    ++row;
-  return row;
+  static constexpr CodeIndex kIndex = IndexByCode(kPriorityTable);
+  return RowOfCode(kIndex, FoldServiceCall(code));
 }
 
 bool ShowsPrinting(const StatusView& view, uint32_t priority) {

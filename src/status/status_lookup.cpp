@@ -1,4 +1,5 @@
 // Status rows of a record, without a choice among several statuses.
+#include "status/code_index.h"
 #include "status/last_error.h"
 #include "status/status_table.h"
 #include "stmdata/stmdata.h"
@@ -6,10 +7,8 @@
 namespace stm {
 
 const StatusRow& FindStatusRow(uint32_t code) {
-  const StatusRow* row = kStatusTable;
-  while (row->code != code && row->code != kStatusTableEnd)
-    ++row;
-  return *row;
+  static constexpr CodeIndex kIndex = IndexByCode(kStatusTable);
+  return kStatusTable[RowOfCode(kIndex, code)];
 }
 
 namespace {
