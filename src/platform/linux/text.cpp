@@ -45,25 +45,29 @@ int32_t FailWith(DWORD systemError) {
   return 0;
 }
 
+uint32_t CountBytes(const CodePage& page, const uint16_t* units, uint32_t count) {
+  uint32_t bytes = 0;
+  for (uint32_t unit = 0; unit < count; ++unit)
+    bytes += EncodeUnit(page, units[unit]) > 0xFF ? 2 : 1;
+  return bytes;
+}
+
 struct Conversion {
   uint32_t units;  // taken
-  uint32_t bytes;  // written, or needed without a target
+  uint32_t bytes;  // written
 };
 
-// Converts whole characters as long as they fit; without a target it only counts.
-Conversion Convert(const CodePage& page, const uint16_t* units, uint32_t count, char* target,
+// Converts whole characters as long as they fit. The page comes as a copy: what is written through
+// `target` cannot change it, and the loop need not read it again for every unit.
+Conversion Convert(const CodePage page, const uint16_t* units, uint32_t count, char* target,
                    uint32_t capacity) {
   uint32_t unit = 0;
   uint32_t bytes = 0;
   for (; unit < count; ++unit) {
     const uint16_t code = EncodeUnit(page, units[unit]);
-    const uint32_t width = code > 0xFF ? 2 : 1;
-    if (target) {
-      if (capacity - bytes < width) break;
-      if (width == 2) target[bytes] = static_cast<char>(code >> 8);
-      target[bytes + width - 1] = static_cast<char>(code);
-    }
-    bytes += width;
+    if (capacity - bytes < (code > 0xFF ? 2 : 1)) break;
+    if (code > 0xFF) target[bytes++] = static_cast<char>(code >> 8);
+    target[bytes++] = static_cast<char>(code);
   }
   return {unit, bytes};
 }
@@ -96,8 +100,8 @@ int32_t STM_CALL WideCharToMultiByte(UINT codePage, DWORD flags, const WCHAR* un
     while (units[length++] != 0) {
     }
   }
-  char* target = size > 0 ? buffer : nullptr;
-  const Conversion done = Convert(*page, units, length, target, static_cast<uint32_t>(size));
+  if (size == 0) return static_cast<int32_t>(CountBytes(*page, units, length));
+  const Conversion done = Convert(*page, units, length, buffer, static_cast<uint32_t>(size));
   if (done.units < length) return FailWith(ERROR_INSUFFICIENT_BUFFER);
   return static_cast<int32_t>(done.bytes);
 }
