@@ -20,6 +20,7 @@ constexpr Area kAreas[] = {
     {"texts", bench::BenchStatus},          // status line and detail
     {"poll", bench::BenchPoll},             // everything between a reply and what the user sees
     {"picture", bench::BenchPicture},       // part list and drawing
+    {"scale", bench::BenchScale},           // many printers, long lists
 };
 
 // Every area, or the one with the name. Result: whether there was any.
