@@ -87,7 +87,8 @@ struct RecordFloor {
 // A search through a table of the size of the status table, to its last row, and a copy of the
 // bytes of the text.
 struct TextFloor {
-  explicit TextFloor(const char* text) : bytes(text) {
+  explicit TextFloor(const char* source) : size(std::strlen(source) + 1) {
+    std::memcpy(text, source, size);
     for (uint32_t row = 0; row < std::size(table); ++row)
       table[row] = {row, row, 0, row};
   }
@@ -96,13 +97,14 @@ struct TextFloor {
     while (row->code != last)
       ++row;
     Use(row);
-    std::memcpy(copy, bytes.c_str(), bytes.size() + 1);
+    std::memcpy(copy, text, size);
     Use(copy);
   }
   StatusRow table[58];
   volatile uint32_t last = 57;
-  std::string bytes;
-  char copy[512];
+  size_t size;
+  alignas(64) char text[512];  // copying takes the same instructions wherever the floor stands
+  alignas(64) char copy[512];
 };
 
 // A part list, cleared.

@@ -3,6 +3,7 @@
 #include <cstdlib>
 #include <cstring>
 #include <initializer_list>
+#include <span>
 
 #include "platform/linux/language.h"
 #include "platform/windows_api.h"
@@ -35,12 +36,21 @@ struct Entry {
   uint32_t size;
 };
 
+// The entries of a title, one a language, side by side.
+struct Group {
+  Title title;
+  uint32_t first;
+  uint32_t count;
+};
+
 // Twice what the library holds; the image is the library's own, so a test sees an overflow first.
 constexpr uint32_t kMostEntries = 1024;
 
 struct Index {
   Entry entries[kMostEntries];
+  Group groups[kMostEntries];
   uint32_t count;
+  uint32_t groupCount;
 };
 
 template <class Number>
@@ -105,12 +115,22 @@ bool Before(const Entry& left, const Entry& right) {
   return byTitle ? byTitle < 0 : left.language < right.language;
 }
 
+void GroupEntries(Index& index) {
+  for (uint32_t entry = 0; entry < index.count; ++entry) {
+    const Title& title = index.entries[entry].title;
+    if (entry == 0 || Compare(title, index.entries[entry - 1].title) != 0)
+      index.groups[index.groupCount++] = {title, entry, 0};
+    ++index.groups[index.groupCount - 1].count;
+  }
+}
+
 Index ReadImage() {
   Index made{};
   const unsigned char* at = stmResourceImage;
   while (at < stmResourceImageEnd && made.count < kMostEntries)
     at = ReadEntry(at, &made.entries[made.count++]);
   std::sort(made.entries, made.entries + made.count, Before);
+  GroupEntries(made);
   return made;
 }
 
@@ -147,31 +167,36 @@ void ReadAsked(const char* name, AskedLabel* asked) {
   }
 }
 
-// The first entry of the title whose language is `language` or comes after it, or null.
-const Entry* FindFrom(Entry asked, LANGID language) {
-  asked.language = language;
-  const Entry* end = imageIndex.entries + imageIndex.count;
-  const Entry* entry = std::lower_bound(imageIndex.entries, end, asked, Before);
-  return entry != end && Compare(entry->title, asked.title) == 0 ? entry : nullptr;
+using Languages = std::span<const Entry>;
+
+// What there is of a title; empty without any.
+Languages FindTitle(const Title& title) {
+  const Group* end = imageIndex.groups + imageIndex.groupCount;
+  const Group* group = std::lower_bound(
+      imageIndex.groups, end, title,
+      [](const Group& each, const Title& sought) { return Compare(each.title, sought) < 0; });
+  if (group == end || Compare(group->title, title) != 0) return {};
+  return {imageIndex.entries + group->first, group->count};
 }
 
-const Entry* FindOneOf(const Entry& asked, std::initializer_list<LANGID> languages) {
+const Entry* FindOneOf(Languages entries, std::initializer_list<LANGID> languages) {
   for (LANGID language : languages) {
-    const Entry* entry = FindFrom(asked, language);
-    if (entry && entry->language == language) return entry;
+    for (const Entry& entry : entries) {
+      if (entry.language == language) return &entry;
+    }
   }
   return nullptr;
 }
 
 // The languages to try, in order. A caller without a wish gets the thread's language, that of the
 // environment, English, and at last any; a caller with one gets it or a neutral one.
-const Entry* ChooseLanguage(const Entry& asked, LANGID language) {
+const Entry* ChooseLanguage(Languages entries, LANGID language) {
   constexpr LANGID kPrimaryMask = 0x3FF;
   const auto primary = static_cast<LANGID>(language & kPrimaryMask);
-  if (primary != kNeutral) return FindOneOf(asked, {language, primary, kNeutral});
+  if (primary != kNeutral) return FindOneOf(entries, {language, primary, kNeutral});
   const Entry* entry =
-      FindOneOf(asked, {language, GetThreadUILanguage(), EnvironmentLanguage(), kEnglish});
-  return entry ? entry : FindFrom(asked, kNeutral);
+      FindOneOf(entries, {language, GetThreadUILanguage(), EnvironmentLanguage(), kEnglish});
+  return entry ? entry : &entries.front();
 }
 
 HRSRC FailWith(DWORD systemError) {
@@ -198,12 +223,10 @@ HRSRC STM_CALL FindResourceExA(HINSTANCE, const char* type, const char* name, LA
   AskedLabel askedName;
   ReadAsked(type, &askedType);
   ReadAsked(name, &askedName);
-  const Entry asked{TitleOf(askedType.label, askedName.label), 0, nullptr, 0};
-
-  const Entry* entry = ChooseLanguage(asked, language);
-  if (!entry)
-    return FailWith(FindFrom(asked, 0) ? ERROR_RESOURCE_LANG_NOT_FOUND
-                                       : ERROR_RESOURCE_NAME_NOT_FOUND);
+  const Languages entries = FindTitle(TitleOf(askedType.label, askedName.label));
+  if (entries.empty()) return FailWith(ERROR_RESOURCE_NAME_NOT_FOUND);
+  const Entry* entry = ChooseLanguage(entries, language);
+  if (!entry) return FailWith(ERROR_RESOURCE_LANG_NOT_FOUND);
   return reinterpret_cast<HRSRC>(const_cast<Entry*>(entry));
 }
 
