@@ -58,7 +58,7 @@ TEST_CASE("a network tray gets its id, paper and level") {
       {"known and missing", {"Tray1", 0x4, "A4"}, 3, 8, 41},
       {"no paper before missing", {"Tray1", 0x6, "A4"}, 3, 8, 1},
       {"missing before amounts", {"Tray1", 0xF04, "A4"}, 3, 8, 41},
-      {"both quarters", {"Tray1", 0x300, "A4"}, 3, 8, 25},
+      {"first quarter", {"Tray1", 0x100, "A4"}, 3, 8, 25},
       {"second quarter", {"Tray1", 0x200, "A4"}, 3, 8, 25},
       {"half before three quarters", {"Tray1", 0xC00, "A4"}, 3, 8, 50},
       {"three quarters", {"Tray1", 0x800, "A4"}, 3, 8, 75},
