@@ -51,7 +51,15 @@ const Language* SystemLanguage() {
   }
   return nullptr;
 }
+
+uint32_t SystemCodePage(const Language&) {
+  return GetACP();
+}
 #else
+uint32_t SystemCodePage(const Language& language) {
+  return language.code_page;
+}
+
 const Language* SystemLanguage() {
   for (const char* variable : {"LC_ALL", "LC_MESSAGES", "LANG"}) {
     const char* value = std::getenv(variable);
@@ -80,6 +88,12 @@ const Language* FindLanguage(std::string_view code) {
 const Language& UserLanguage() {
   const Language* language = SystemLanguage();
   return language ? *language : kLanguages[0];
+}
+
+bool FlatTextsAreWhole(const Language& language) {
+  constexpr uint32_t kUtf8 = 65001;
+  const uint32_t page = SystemCodePage(language);
+  return page == language.code_page || page == kUtf8 || language.id == kLanguages[0].id;
 }
 
 std::string ToUtf8(std::string_view text, uint32_t code_page) {

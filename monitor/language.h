@@ -25,6 +25,10 @@ const Language* FindLanguage(std::string_view code);
 // That of the user's locale, English when the library does not speak it.
 const Language& UserLanguage();
 
+// The flat record's texts come in the system's code page, which may lack letters of the language.
+// (On Linux it is the one of the language.)
+bool FlatTextsAreWhole(const Language& language);
+
 // `text` of code page 932, 1250, 1252 or CP_ACP; without control characters but line feeds.
 std::string ToUtf8(std::string_view text, uint32_t code_page);
 

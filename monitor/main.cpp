@@ -298,6 +298,20 @@ std::string LanguageCodes() {
   return codes;
 }
 
+// The texts go out all the same, with plainer letters or question marks for those that are missing.
+void TellOfCodePage(const Options& options) {
+  std::string lacking;
+  for (const Language* language = kLanguages; language->code; ++language) {
+    const bool asked = options.language == "all" || language == &ChosenLanguage(options) ||
+                       (options.catalogue && options.language.empty());
+    if (asked && !FlatTextsAreWhole(*language)) lacking += std::string(" ") + language->code;
+  }
+  if (lacking.empty()) return;
+  Complain(
+      "stmon: the flat record's texts come in this system's code page, which may lack letters of" +
+      lacking + "; those of --record list are whole.\n");
+}
+
 int PrintCatalogue(const Options& options) {
   const Language* only = FindLanguage(options.language);
   Print(options.json ? CatalogueJson(only) : CatalogueText(only));
@@ -318,6 +332,7 @@ int Run(const Options& options) {
     return Fail("--lang " + EscapeBytes(options.language) + ": not one of " + LanguageCodes() +
                 "all.");
   }
+  if (options.catalogue || options.record == "flat") TellOfCodePage(options);
   if (options.catalogue) return PrintCatalogue(options);
   if (!options.gallery.empty()) return MakeGallery(options);
   if (options.scenario == "list") return ListScenarios();

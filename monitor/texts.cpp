@@ -40,6 +40,23 @@ std::string FlatDetail(std::string_view text, uint32_t dominant) {
   return Tidy(ToUtf8(text.substr(0, last), CP_ACP) + "\n" + ToUtf8(text.substr(last + 1), 932));
 }
 
+// The language in which the system picks this thread's texts: a thread has one for what it shows
+// and one for its locale, and systems differ in which of them counts.
+struct ThreadLanguage {
+  LANGID shown;
+  uint32_t locale;
+};
+
+ThreadLanguage SetThreadLanguage(ThreadLanguage language) {
+  ThreadLanguage before = {GetThreadUILanguage(), 0};
+#ifdef _WIN32
+  before.locale = GetThreadLocale();
+  SetThreadLocale(language.locale);
+#endif
+  SetThreadUILanguage(language.shown);
+  return before;
+}
+
 }  // namespace
 
 Texts AskTexts(const PrnInfoEx& record, const Language& language) {
@@ -56,14 +73,13 @@ Texts AskTexts(const PrnInfoEx& record, const Language& language) {
 }
 
 Texts AskTexts(const PrnInfo& info, const Language& language, uint32_t dominant) {
-  const LANGID before = GetThreadUILanguage();
-  SetThreadUILanguage(language.id);
+  const ThreadLanguage before = SetThreadLanguage({language.id, language.id});
   PrnInfo copy = info;  // the detail text is asked with a record that it may write to
   char buffer[kSize] = "";
   Texts texts;
   if (PatGetSimpleString(&copy, buffer, kSize) == 1) texts.brief = Tidy(ToUtf8(buffer, CP_ACP));
   if (PatGetDetailString(&copy, buffer, kSize) == 1) texts.detail = FlatDetail(buffer, dominant);
-  SetThreadUILanguage(before);
+  SetThreadLanguage(before);
   return texts;
 }
 

@@ -40,6 +40,7 @@ TEST_CASE("status, detail and icon in the chosen language, as UTF-8") {
       {"32,48", RecordKind::List, "jp", "要ｻｰﾋﾞｽ連絡", nullptr, "ICO_ERR_SERVICE"},
       {"777", RecordKind::List, "EN", "", "", "BMP_ERR_CAUTION"},
       {"777", RecordKind::Flat, "EN", "", "", "BMP_ERR_CAUTION"},
+      {"37", RecordKind::Flat, "DE", "Abdeckung offen", nullptr, "ICO_ERR_COVER"},
 #ifndef _WIN32  // elsewhere the flat record's texts depend on the system's own code page
       {"71,69", RecordKind::Flat, "EN", "No Toner", "Toner is empty.\nAdd Toner.\nｼｱﾝ  ｲｴﾛ-",
        "ICO_ERR_TONER"},
