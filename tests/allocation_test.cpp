@@ -20,6 +20,10 @@ constexpr std::string_view kReply =
     "\x1BS\r4,5,"
     "25\r0\r1\r1\n\x1BT\r1\r5\r2\r6\n\x1BL\r1\r0\r2\r1\n\x1BV\rA\r1\rB\r2\rC\r3\n\x1BM\r7\n"
     "\x1B\x46\rGOTHIC\rKAISHO\n\x1B\x44\rF:3\rO:\x03\rD:1\n\x1B\x41\r1\n\x1B\x43\r1\n";
+// More status nodes than a flat record's temporary one has room for, and lists told twice.
+constexpr std::string_view kLongReply =
+    "\x1BS\r4,5,25,26,28,36,37\r0\r1\r1\n\x1B\x46\rGOTHIC\rKAISHO\n\x1B\x46\rKAISHO\n"
+    "\x1B\x44\rF:3\rO:\x03\n\x1B\x44\rD:1\n\x1BS\r4,5,25\r0\r1\r1\n\x1B\x41\r1\n";
 constexpr std::string_view kFirstDeviceId = "MFG:A;CMD:NDL;MDL:B;DES:C;";
 constexpr std::string_view kDeviceId = "MFG:ORLEX;CMD:NDL,NPS;MDL:ZENTA C210;DES:ZENTA C210;";
 
@@ -53,6 +57,10 @@ const CallRow kCalls[] = {
     {"SetPrnInfoFromReadbackCmd",
      [](Work& work) {
        return SetPrnInfoFromReadbackCmd(&work.flat, kReply.data(), int32_t(kReply.size()));
+     }},
+    {"SetPrnInfoFromReadbackCmd, a long reply",
+     [](Work& work) {
+       return SetPrnInfoFromReadbackCmd(&work.flat, kLongReply.data(), int32_t(kLongReply.size()));
      }},
     {"SetModelInfoExFromDeviceID",
      [](Work& work) {
@@ -124,7 +132,7 @@ TEST_CASE("any allocation may fail: nothing leaks, and the next call makes up fo
 }
 
 TEST_CASE("a flat record without memory for its conversion is refused and left alone") {
-  for (const CallRow& row : {kCalls[1], kCalls[3]}) {
+  for (const CallRow& row : {kCalls[1], kCalls[2], kCalls[4]}) {
     Work work, before;
     Fill(work);
     Fill(before);

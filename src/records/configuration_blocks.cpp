@@ -17,9 +17,9 @@ void SkipLabel(Input& fields) {
 
 // An existing block has room for every version text and is written over. Result: whether more
 // fields follow.
-bool ReadVersion(Input& fields, char*& text) {
+bool ReadVersion(Input& fields, char*& text, Room* room) {
   const Field value = ReadField(fields, kVersionLimit, kCarriageReturn);
-  if (!text) text = static_cast<char*>(GlobalAlloc(GPTR, kVersionBytes));
+  if (!text) text = static_cast<char*>(TakeBlock(room, kVersionBytes));
   if (text) {
     std::memcpy(text, value.text.data(), value.text.size());
     text[value.text.size()] = '\0';
@@ -31,47 +31,46 @@ bool ReadVersion(Input& fields, char*& text) {
 
 //   1B 'V' CR  S Y S CR 1 . 0 1 CR  N W C CR 2 . 0 0 LF
 //              label    value       label    value       a third pair may follow
-void ParseVersionBlock(const Input& block, PrnInfoEx* record) {
+void ParseVersionBlock(const Input& block, Filling to) {
   Input fields = FieldsOf(block);
   SkipLabel(fields);
-  ReadVersion(fields, record->versionText1);
+  ReadVersion(fields, to.record->versionText1, to.room);
   SkipLabel(fields);
-  if (!ReadVersion(fields, record->versionText2)) return;
+  if (!ReadVersion(fields, to.record->versionText2, to.room)) return;
   SkipLabel(fields);
-  ReadVersion(fields, record->versionText3);
+  ReadVersion(fields, to.record->versionText3, to.room);
 }
 
 //   1B 'M' CR  6 4 LF
-void ParseNumberBlock(const Input& block, PrnInfoEx* record) {
+void ParseNumberBlock(const Input& block, Filling to) {
   Input fields = FieldsOf(block);
-  record->modelInfoNumber = ParseDecimal(ReadField(fields, 16, kLineFeed).text);
+  to.record->modelInfoNumber = ParseDecimal(ReadField(fields, 16, kLineFeed).text);
 }
 
 //   1B 'E' CR  N D L LF
-void ParseEmulationBlock(const Input& block, PrnInfoEx* record) {
+void ParseEmulationBlock(const Input& block, Filling to) {
   Input fields = FieldsOf(block);
   const Field code = ReadField(fields, 5, kLineFeed);
-  record->emulationCode = static_cast<uint32_t>(LookupNameCode(code.text, kEmulationCodeTable));
+  to.record->emulationCode = static_cast<uint32_t>(LookupNameCode(code.text, kEmulationCodeTable));
 }
 
 //   1B 'F' CR  G O T H I C CR K A I S H O LF
 //
 // Fonts that the table does not name are not kept.
-void ParseFontBlock(const Input& block, PrnInfoEx* record) {
-  record->fontList = FreeItemList(record->fontList);
-  record->fontCount = 0;
-  FontNode** link = &record->fontList;
+void ParseFontBlock(const Input& block, Filling to) {
+  to.record->fontCount = 0;
+  FontNode** link = &to.record->fontList;
   Input fields = FieldsOf(block);
   while (Peek(fields) != '\0') {
     const Field name = ReadField(fields, 128, kCarriageReturn);
     const int32_t code = LookupNameCode(name.text, kFontNameTable);
     if (code == 0) continue;
-    *link = NewItem<FontNode>();
-    if (!*link) continue;
-    (*link)->fontCode = static_cast<uint16_t>(code);
-    link = &(*link)->next;
-    ++record->fontCount;
+    FontNode* font = NextItem(link, to.room);
+    if (!font) continue;
+    font->fontCode = static_cast<uint16_t>(code);
+    ++to.record->fontCount;
   }
+  *link = FreeItemList(*link, to.room);
 }
 
 }  // namespace stm

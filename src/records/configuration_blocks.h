@@ -4,8 +4,8 @@
 
 #include <cstdint>
 
+#include "records/room.h"
 #include "records/scanners.h"
-#include "stmdata/records.h"
 
 namespace stm {
 
@@ -13,10 +13,10 @@ namespace stm {
 // gives it this much at least, since a reply writes over what is there.
 constexpr uint32_t kVersionBytes = 7;
 
-// Each parses a block, its end left out, into `record`.
-void ParseVersionBlock(const Input& block, PrnInfoEx* record);
-void ParseNumberBlock(const Input& block, PrnInfoEx* record);
-void ParseEmulationBlock(const Input& block, PrnInfoEx* record);
-void ParseFontBlock(const Input& block, PrnInfoEx* record);
+// Each parses a block, its end left out.
+void ParseVersionBlock(const Input& block, Filling to);
+void ParseNumberBlock(const Input& block, Filling to);
+void ParseEmulationBlock(const Input& block, Filling to);
+void ParseFontBlock(const Input& block, Filling to);
 
 }  // namespace stm

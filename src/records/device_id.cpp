@@ -30,52 +30,51 @@ bool EndsField(const Value& value) {
 }
 
 // Replaces a string of the record; null without memory.
-void ReplaceText(char*& text, const Value& value) {
-  if (text) GlobalFree(text);
-  text = static_cast<char*>(GlobalAlloc(GPTR, Left(value) + 1));
+void ReplaceText(char*& text, const Value& value, Room* room) {
+  if (text) ReleaseBlock(room, text);
+  text = static_cast<char*>(TakeBlock(room, Left(value) + 1));
   if (text) std::memcpy(text, value.position, Left(value));
 }
 
 // A printer whose name cannot be kept counts as unknown.
-void ReplaceNamedModel(PrnInfoEx* record, char*& name, Value value, const NameCode* models) {
+void ReplaceNamedModel(Filling to, char*& name, Value value, const NameCode* models) {
   DropLast(value);
-  ReplaceText(name, value);
-  record->modelCode = static_cast<uint8_t>(name ? LookupNameCode(name, models) : ModelUnknown);
+  ReplaceText(name, value, to.room);
+  to.record->modelCode = static_cast<uint8_t>(name ? LookupNameCode(name, models) : ModelUnknown);
 }
 
-void ReadManufacturer(PrnInfoEx* record, Value value) {
+void ReadManufacturer(Filling to, Value value) {
   if (EndsField(value)) DropLast(value);
-  ReplaceText(record->manufacturer, value);
+  ReplaceText(to.record->manufacturer, value, to.room);
 }
 
 // Codes of more than six characters are split; each piece loses its comma, the last one of a
 // string that ends early loses its last character.
-void ReadLanguages(PrnInfoEx* record, Value value) {
-  record->emulationList = FreeItemList(record->emulationList);
-  record->emulationCount = 0;
-  EmulationNode** link = &record->emulationList;
+void ReadLanguages(Filling to, Value value) {
+  to.record->emulationCount = 0;
+  EmulationNode** link = &to.record->emulationList;
   while (Left(value) > 0) {
     Field code = ScanField(value, 8, ',', kFieldEnd);
     if (code.delimiter == '\0') code.text.remove_suffix(1);
-    *link = NewItem<EmulationNode>();
-    if (!*link) continue;
-    (*link)->emulationCode = static_cast<uint16_t>(LookupNameCode(code.text, kEmulationCodeTable));
-    link = &(*link)->next;
-    ++record->emulationCount;
+    EmulationNode* language = NextItem(link, to.room);
+    if (!language) continue;
+    language->emulationCode = static_cast<uint16_t>(LookupNameCode(code.text, kEmulationCodeTable));
+    ++to.record->emulationCount;
   }
+  *link = FreeItemList(*link, to.room);
 }
 
-void ReadModel(PrnInfoEx* record, Value value) {
-  ReplaceNamedModel(record, record->modelName, value, kServedModels);
+void ReadModel(Filling to, Value value) {
+  ReplaceNamedModel(to, to.record->modelName, value, kServedModels);
 }
 
-void ReadDescription(PrnInfoEx* record, Value value) {
-  ReplaceNamedModel(record, record->description, value, kModelNameTable);
+void ReadDescription(Filling to, Value value) {
+  ReplaceNamedModel(to, to.record->description, value, kModelNameTable);
 }
 
 struct KeyRow {
   char key[kKeyLength + 1];
-  void (*read)(PrnInfoEx* record, Value value);
+  void (*read)(Filling to, Value value);
 };
 
 constexpr KeyRow kKeys[] = {
@@ -92,14 +91,14 @@ uint32_t FieldLength(const Input& input) {
   return end ? static_cast<uint32_t>(end + 1 - input.position) : most;
 }
 
-void WalkDeviceId(Input rest, PrnInfoEx* record) {
+void WalkDeviceId(Input rest, Filling to) {
   while (Left(rest) > 0) {
     const Input field{rest.position, rest.position + FieldLength(rest)};
     Skip(rest, Left(field));
     for (const KeyRow& row : kKeys) {
       if (Left(field) < kKeyLength || std::memcmp(field.position, row.key, kKeyLength) != 0)
         continue;
-      row.read(record, {field.position + kKeyLength, field.end});
+      row.read(to, {field.position + kKeyLength, field.end});
       break;
     }
   }
@@ -111,24 +110,29 @@ Input DeviceIdOf(const char* text, uint32_t length) {
   return {text, zero ? zero : text + length};
 }
 
+uint32_t ReadDeviceId(Filling to, const char* deviceId, uint32_t length) {
+  if (!to.record || !deviceId) return 0;
+  to.record->recordTag = PrnInfoExTag;
+  to.record->structSize = PrnInfoExSize;
+  WalkDeviceId(DeviceIdOf(deviceId, length), to);
+  return 1;
+}
+
 }  // namespace
 }  // namespace stm
 
 uint32_t STM_CALL SetModelInfoExFromDeviceID(ModelInfoEx* record, const char* deviceId,
                                              uint32_t length) {
-  if (!record || !deviceId) return 0;
-  record->recordTag = PrnInfoExTag;
-  record->structSize = PrnInfoExSize;
-  stm::WalkDeviceId(stm::DeviceIdOf(deviceId, length), record);
-  return 1;
+  return stm::ReadDeviceId({record, nullptr}, deviceId, length);
 }
 
 uint32_t STM_CALL SetModelInfoFromDeviceID(PrnInfo* record, const char* deviceId, uint32_t length) {
   if (!record) return 0;
-  PrnInfoEx* temporary = stm::NewPrnInfoEx();
+  stm::TemporaryRecord* temporary = stm::NewPrnInfoEx();
   if (!temporary) return 0;
-  const uint32_t result = SetModelInfoExFromDeviceID(temporary, deviceId, length);
-  if (result) stm::ConvertToPrnInfo(*temporary, record, GroupDeviceId);
+  const uint32_t result =
+      stm::ReadDeviceId({&temporary->record, &temporary->room}, deviceId, length);
+  if (result) stm::ConvertToPrnInfo(temporary->record, record, GroupDeviceId);
   stm::FreePrnInfoEx(temporary);
   return result;
 }

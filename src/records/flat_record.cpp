@@ -174,10 +174,11 @@ void ConvertToPrnInfo(const PrnInfoEx& source, PrnInfo* target, uint32_t groups)
 
 uint32_t STM_CALL SetPrnInfoFromReadbackCmd(PrnInfo* record, const char* reply, int32_t length) {
   if (!record) return 0;
-  PrnInfoEx* temporary = stm::NewPrnInfoEx();
+  stm::TemporaryRecord* temporary = stm::NewPrnInfoEx();
   if (!temporary) return 0;
-  const uint32_t result = SetPrnInfoExFromReadbackCmd(temporary, reply, length);
-  stm::ConvertToPrnInfo(*temporary, record, stm::LastParseFlags());
+  const stm::ReplyResult result =
+      stm::ReadReply({&temporary->record, &temporary->room}, reply, length);
+  stm::ConvertToPrnInfo(temporary->record, record, result.groups);
   stm::FreePrnInfoEx(temporary);
-  return result;
+  return result.walked;
 }

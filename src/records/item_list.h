@@ -1,11 +1,11 @@
-// Item lists: singly linked nodes, each a zero-filled global memory block of its own. A list is its
-// head pointer; the record's count field beside it may disagree with the chain, so every operation
-// ends at the chain's end and none trusts a count.
+// Item lists: singly linked nodes, each a zero-filled block of its own. A list is its head pointer;
+// the record's count field beside it may disagree with the chain, so every operation ends at the
+// chain's end and none trusts a count.
 #pragma once
 
 #include <cstdint>
 
-#include "platform/windows_api.h"
+#include "records/room.h"
 #include "stmdata/records.h"
 
 namespace stm {
@@ -32,21 +32,40 @@ inline uint16_t KeyOf(const EmulationNode& node) {
 
 // A zero-filled node, or null without memory.
 template <class Node>
-Node* NewItem() {
-  auto* node = static_cast<Node*>(GlobalAlloc(GPTR, sizeof(Node)));
+Node* NewItem(Room* room = nullptr) {
+  auto* node = static_cast<Node*>(TakeBlock(room, sizeof(Node)));
   if (node) node->nodeSize = sizeof(Node);
   return node;
 }
 
 // Releases every node. Result: null, the empty list.
 template <class Node>
-Node* FreeItemList(Node* head) {
+Node* FreeItemList(Node* head, Room* room = nullptr) {
   while (head) {
     Node* next = head->next;
-    GlobalFree(head);
+    ReleaseBlock(room, head);
     head = next;
   }
   return nullptr;
+}
+
+// The next node of a list that is written anew from `link` on: an old node, emptied, or else a new
+// one; `link` then leads behind it. Null without memory. What is left at the link when all is
+// written is the caller's to release.
+template <class Node>
+Node* NextItem(Node**& link, Room* room) {
+  Node* node = *link;
+  if (node) {
+    Node* next = node->next;
+    *node = {};
+    node->next = next;
+    node->nodeSize = sizeof(Node);
+  } else {
+    node = *link = NewItem<Node>(room);
+    if (!node) return nullptr;
+  }
+  link = &node->next;
+  return node;
 }
 
 // Appends zero-filled nodes until the list holds `count`; stops early without memory.
@@ -61,12 +80,12 @@ void GrowItemList(Node** link, uint32_t count) {
 // A list of `count` nodes, of one node when `count` is 0; null when memory does not suffice for
 // all.
 template <class Node>
-Node* AllocItemList(uint32_t count) {
+Node* AllocItemList(uint32_t count, Room* room = nullptr) {
   Node* head = nullptr;
   Node** link = &head;
   for (uint32_t made = 0; made < (count ? count : 1); ++made, link = &(*link)->next) {
-    *link = NewItem<Node>();
-    if (!*link) return FreeItemList(head);
+    *link = NewItem<Node>(room);
+    if (!*link) return FreeItemList(head, room);
   }
   return head;
 }
@@ -104,10 +123,10 @@ Node* ResizeItemList(Node* head, uint32_t oldCount, uint32_t newCount) {
 // same count kept with its contents. Without memory the list is empty and its count 0, so that the
 // next time builds it.
 template <class Node>
-void RebuildItemList(Node*& head, uint32_t& count, uint32_t newCount) {
+void RebuildItemList(Node*& head, uint32_t& count, uint32_t newCount, Room* room) {
   if (newCount == count) return;
-  FreeItemList(head);
-  head = AllocItemList<Node>(newCount);
+  FreeItemList(head, room);
+  head = AllocItemList<Node>(newCount, room);
   count = head ? newCount : 0;
 }
 

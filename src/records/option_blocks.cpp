@@ -74,18 +74,23 @@ OptionNode** TailOf(OptionNode** link) {
   return link;
 }
 
-// Writes the option into the node of `cursor`, or behind it when that one is taken; the cursor then
-// moves there. Without memory the option is lost.
-void AddOption(OptionNode*& cursor, uint32_t& count, uint16_t code, uint16_t value) {
-  if (cursor->optionCode != 0) {
-    OptionNode* added = NewItem<OptionNode>();
-    if (!added) return;
-    cursor->next = added;
-    cursor = added;
+// The list as it is written: the latest node, and the link behind it.
+struct OptionCursor {
+  OptionNode* node;
+  OptionNode** link;
+};
+
+// Writes the option into the cursor's node, or into the next one when that is taken. Without memory
+// the option is lost.
+void AddOption(OptionCursor& cursor, Filling to, uint16_t code, uint16_t value) {
+  if (cursor.node->optionCode != 0) {
+    OptionNode* next = NextItem(cursor.link, to.room);
+    if (!next) return;
+    cursor.node = next;
   }
-  cursor->optionCode = code;
-  cursor->optionValue = value;
-  ++count;
+  cursor.node->optionCode = code;
+  cursor.node->optionValue = value;
+  ++to.record->optionCount;
 }
 
 }  // namespace
@@ -93,15 +98,16 @@ void AddOption(OptionNode*& cursor, uint32_t& count, uint16_t code, uint16_t val
 //   1B 'A' CR  '1' LF     '0' means absent, anything else present
 //
 // Nodes of code 0 are not counted: a list of such nodes only is replaced.
-void ParsePresenceBlock(const Input& block, PrnInfoEx* record, uint16_t optionCode) {
+void ParsePresenceBlock(const Input& block, Filling to, uint16_t optionCode) {
   if (Peek(FieldsOf(block)) == '0') return;
-  if (record->optionCount != 0 && FindItem(record->optionList, optionCode)) return;
-  OptionNode* added = NewItem<OptionNode>();
+  if (to.record->optionCount != 0 && FindItem(to.record->optionList, optionCode)) return;
+  auto* added = NewItem<OptionNode>(to.room);
   if (!added) return;
   added->optionCode = optionCode;
-  if (record->optionCount == 0) record->optionList = FreeItemList(record->optionList);
-  *TailOf(&record->optionList) = added;
-  ++record->optionCount;
+  if (to.record->optionCount == 0)
+    to.record->optionList = FreeItemList(to.record->optionList, to.room);
+  *TailOf(&to.record->optionList) = added;
+  ++to.record->optionCount;
 }
 
 //   1B 'D' CR  F : 03 CR D : 01 00 00 00 LF
@@ -110,35 +116,32 @@ void ParsePresenceBlock(const Input& block, PrnInfoEx* record, uint16_t optionCo
 //              letter
 //
 // Every known letter opens a node; it keeps code 0 when the value selects none of its masks.
-void ParseOptionBlock(const Input& block, PrnInfoEx* record) {
-  record->optionList = FreeItemList(record->optionList);
-  record->optionCount = 0;
-  OptionNode** tail = &record->optionList;
-
+void ParseOptionBlock(const Input& block, Filling to) {
+  to.record->optionCount = 0;
+  OptionCursor cursor{nullptr, &to.record->optionList};
   Input entries = FieldsOf(block);
   while (Left(entries) > 0) {
     const OptionRow* row = FindOptionRow(Peek(entries));
     Skip(entries, 2);
     const uint32_t value = ReadValue(entries);
     if (!row) continue;
-    *tail = NewItem<OptionNode>();
-    if (!*tail) continue;
-    OptionNode* cursor = *tail;
+    cursor.node = NextItem(cursor.link, to.room);
+    if (!cursor.node) continue;
     switch (row->kind) {
       case OptionKind::Code:
-        AddOption(cursor, record->optionCount, row->code, 0);
+        AddOption(cursor, to, row->code, 0);
         break;
       case OptionKind::CodeWithValue:
-        AddOption(cursor, record->optionCount, row->code, static_cast<uint16_t>(value));
+        AddOption(cursor, to, row->code, static_cast<uint16_t>(value));
         break;
       case OptionKind::CodePerMask:
         for (const MaskRow* mask = row->masks; mask->mask != 0; ++mask) {
-          if (value & mask->mask) AddOption(cursor, record->optionCount, mask->code, 0);
+          if (value & mask->mask) AddOption(cursor, to, mask->code, 0);
         }
         break;
     }
-    tail = &cursor->next;
   }
+  *cursor.link = FreeItemList(*cursor.link, to.room);
 }
 
 }  // namespace stm

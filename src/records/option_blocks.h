@@ -4,21 +4,21 @@
 
 #include <cstdint>
 
+#include "records/room.h"
 #include "records/scanners.h"
-#include "stmdata/records.h"
 
 namespace stm {
 
-// Each parses a block, its end left out, into `record`.
-void ParsePresenceBlock(const Input& block, PrnInfoEx* record, uint16_t optionCode);
-void ParseOptionBlock(const Input& block, PrnInfoEx* record);
+// Each parses a block, its end left out.
+void ParsePresenceBlock(const Input& block, Filling to, uint16_t optionCode);
+void ParseOptionBlock(const Input& block, Filling to);
 
 // The A block tells of option 4, the C block of the duplex unit.
-inline void ParseOption4Block(const Input& block, PrnInfoEx* record) {
-  ParsePresenceBlock(block, record, 4);
+inline void ParseOption4Block(const Input& block, Filling to) {
+  ParsePresenceBlock(block, to, 4);
 }
-inline void ParseDuplexBlock(const Input& block, PrnInfoEx* record) {
-  ParsePresenceBlock(block, record, OptionDuplex);
+inline void ParseDuplexBlock(const Input& block, Filling to) {
+  ParsePresenceBlock(block, to, OptionDuplex);
 }
 
 }  // namespace stm

@@ -51,17 +51,17 @@ uint32_t CountEntries(const Input& block) {
 //
 // Values go to the node with the entry's id. The k-th id that no node has yet takes the k-th node
 // from the head; when the nodes are used up, such an entry is dropped.
-template <class Node>
-void ParseEntries(const Input& block, PrnInfoEx* record, const EntryRule<Node>& rule) {
-  RebuildItemList(record->*rule.list, record->*rule.count, CountEntries(block));
-  Node* cursor = record->*rule.list;
+template <const auto& rule>
+void ParseEntries(const Input& block, Filling to) {
+  RebuildItemList(to.record->*rule.list, to.record->*rule.count, CountEntries(block), to.room);
+  auto* cursor = to.record->*rule.list;
 
   Input fields = FieldsOf(block);
   while (Peek(fields) != '\0') {
     const Field id = ReadField(fields, 8, kCarriageReturn);
     const Field value = ReadField(fields, 8, kCarriageReturn);
     const auto key = static_cast<uint16_t>(LookupNameCode(id.text, rule.ids));
-    Node* node = FindItem(record->*rule.list, key);
+    auto* node = FindItem(to.record->*rule.list, key);
     if (!node && cursor) {
       node = cursor;
       cursor = cursor->next;
@@ -73,16 +73,16 @@ void ParseEntries(const Input& block, PrnInfoEx* record, const EntryRule<Node>& 
 
 }  // namespace
 
-void ParseTrayBlock(const Input& block, PrnInfoEx* record) {
-  ParseEntries(block, record, kTrayRule);
+void ParseTrayBlock(const Input& block, Filling to) {
+  ParseEntries<kTrayRule>(block, to);
 }
 
-void ParseLevelBlock(const Input& block, PrnInfoEx* record) {
-  ParseEntries(block, record, kLevelRule);
+void ParseLevelBlock(const Input& block, Filling to) {
+  ParseEntries<kLevelRule>(block, to);
 }
 
-void ParseBinBlock(const Input& block, PrnInfoEx* record) {
-  ParseEntries(block, record, kBinRule);
+void ParseBinBlock(const Input& block, Filling to) {
+  ParseEntries<kBinRule>(block, to);
 }
 
 }  // namespace stm

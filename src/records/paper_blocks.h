@@ -3,14 +3,14 @@
 
 #include <cstdint>
 
+#include "records/room.h"
 #include "records/scanners.h"
-#include "stmdata/records.h"
 
 namespace stm {
 
-// Each parses a block, its end left out, into `record`.
-void ParseTrayBlock(const Input& block, PrnInfoEx* record);
-void ParseLevelBlock(const Input& block, PrnInfoEx* record);
-void ParseBinBlock(const Input& block, PrnInfoEx* record);
+// Each parses a block, its end left out.
+void ParseTrayBlock(const Input& block, Filling to);
+void ParseLevelBlock(const Input& block, Filling to);
+void ParseBinBlock(const Input& block, Filling to);
 
 }  // namespace stm

@@ -6,19 +6,21 @@
 
 namespace stm {
 
-uint32_t FreePrnInfoEx(PrnInfoEx* record) {
-  if (!record) return 2;
-  for (char* text : {record->modelName, record->manufacturer, record->description,
-                     record->versionText1, record->versionText2, record->versionText3}) {
-    if (text) GlobalFree(text);
+uint32_t FreePrnInfoEx(TemporaryRecord* temporary) {
+  if (!temporary) return 2;
+  const PrnInfoEx& record = temporary->record;
+  Room* room = &temporary->room;
+  for (char* text : {record.modelName, record.manufacturer, record.description, record.versionText1,
+                     record.versionText2, record.versionText3}) {
+    if (text) ReleaseBlock(room, text);
   }
-  FreeItemList(record->statusList);
-  FreeItemList(record->emulationList);
-  FreeItemList(record->fontList);
-  FreeItemList(record->trayList);
-  FreeItemList(record->binList);
-  FreeItemList(record->optionList);
-  GlobalFree(record);
+  FreeItemList(record.statusList, room);
+  FreeItemList(record.emulationList, room);
+  FreeItemList(record.fontList, room);
+  FreeItemList(record.trayList, room);
+  FreeItemList(record.binList, room);
+  FreeItemList(record.optionList, room);
+  GlobalFree(temporary);
   return 0;
 }
 

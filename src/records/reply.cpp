@@ -1,5 +1,6 @@
 #include "records/reply.h"
 
+#include <array>
 #include <cstring>
 
 #include "platform/shared_value.h"
@@ -37,8 +38,8 @@ constexpr uint32_t kEndLength = 2;
 // A status block ends with its LF or with the reply's end marker and takes 256 bytes at most.
 BlockExtent StatusExtent(const Input& rest) {
   constexpr uint32_t kMost = 256;
-  for (Input at = rest; Left(at) > 0; Skip(at, 1)) {
-    const bool lineEnd = Peek(at) == kLineFeed;
+  for (Input at = rest; Left(at) > 0; ++at.position) {
+    const bool lineEnd = *at.position == kLineFeed;
     if (!lineEnd && BlockLetter(at) != kEndLetter) continue;
     const auto length = static_cast<uint32_t>(at.position - rest.position);
     if (length >= kMost) return {kMost, kMost};
@@ -50,7 +51,7 @@ BlockExtent StatusExtent(const Input& rest) {
 struct BlockRow {
   char letter;
   BlockExtent (*extent)(const Input& rest);
-  void (*parse)(const Input& block, PrnInfoEx* record);
+  void (*parse)(const Input& block, Filling to);
   uint32_t groups;
 };
 
@@ -66,30 +67,36 @@ constexpr BlockRow kBlocks[] = {
     {'A', LineExtent, ParseOption4Block, GroupOptions},                    // option 4
     {'C', LineExtent, ParseDuplexBlock, GroupDuplex},                      // duplex unit
     {'D', LineExtent, ParseOptionBlock, GroupOptions},                     // optional units
+    {'\0', nullptr, nullptr, 0},                                           // closing row: no block
 };
 
-const BlockRow* FindBlock(int8_t letter) {
-  for (const BlockRow& row : kBlocks) {
-    if (row.letter == letter) return &row;
-  }
-  return nullptr;
-}
+// Where the letters stand in the table; all others lead to its closing row.
+constexpr auto kRowOfLetter = [] {
+  std::array<uint8_t, 256> rows;
+  rows.fill(std::size(kBlocks) - 1);
+  for (uint8_t row = 0; row < std::size(kBlocks) - 1; ++row)
+    rows[static_cast<uint8_t>(kBlocks[row].letter)] = row;
+  return rows;
+}();
 
-void WalkReply(Input rest, PrnInfoEx* record) {
-  while (Peek(rest) != '\0') {
+// Result: the groups of the blocks that were parsed.
+uint32_t WalkReply(Input rest, Filling to) {
+  uint32_t groups = 0;
+  for (;;) {
     const int8_t letter = BlockLetter(rest);
     if (letter == kEndLetter) {
       Skip(rest, kEndLength);
       continue;
     }
-    const BlockRow* row = FindBlock(letter);
-    if (!row) return;
-    const BlockExtent extent = row->extent(rest);
-    if (extent.taken == 0) return;
-    row->parse({rest.position, rest.position + extent.text}, record);
-    lastParseFlags.fetch_or(row->groups, std::memory_order_relaxed);
+    const BlockRow& row = kBlocks[kRowOfLetter[static_cast<uint8_t>(letter)]];
+    if (!row.parse) break;
+    const BlockExtent extent = row.extent(rest);
+    if (extent.taken == 0) break;
+    row.parse({rest.position, rest.position + extent.text}, to);
+    groups |= row.groups;
     Skip(rest, extent.taken);
   }
+  return groups;
 }
 
 }  // namespace
@@ -98,15 +105,21 @@ uint32_t LastParseFlags() {
   return lastParseFlags.load(std::memory_order_relaxed);
 }
 
+ReplyResult ReadReply(Filling to, const char* reply, int32_t length) {
+  ReplyResult result{0, 0};
+  const bool given = to.record && reply;
+  if (given && length <= 0) {
+    result.walked = 1;
+  } else if (given && BlockLetter({reply, reply + length}) != -1) {
+    result = {1, WalkReply({reply, reply + length}, to)};
+  }
+  SetShared(lastParseFlags, result.groups);
+  return result;
+}
+
 }  // namespace stm
 
 uint32_t STM_CALL SetPrnInfoExFromReadbackCmd(PrnInfoEx* record, const char* reply,
                                               int32_t length) {
-  stm::SetShared(stm::lastParseFlags, 0u);
-  if (!record || !reply) return 0;
-  if (length <= 0) return 1;
-  const stm::Input input{reply, reply + length};
-  if (stm::BlockLetter(input) == -1) return 0;
-  stm::WalkReply(input, record);
-  return 1;
+  return stm::ReadReply({record, nullptr}, reply, length).walked;
 }

@@ -3,10 +3,19 @@
 
 #include <cstdint>
 
+#include "records/room.h"
+
 namespace stm {
 
-// Group bits of the blocks that the most recent call of SetPrnInfoExFromReadbackCmd dispatched; one
-// value for the process.
+// What a reply of `length` bytes gave.
+struct ReplyResult {
+  uint32_t walked;  // 1, or 0 when the bytes are no reply
+  uint32_t groups;  // group bits of the blocks that were parsed
+};
+
+ReplyResult ReadReply(Filling to, const char* reply, int32_t length);
+
+// The groups of the most recent reply; one value for the process.
 uint32_t LastParseFlags();
 
 }  // namespace stm

@@ -66,7 +66,14 @@ inline Field ReadField(Input& input, uint32_t limit, char delimiter) {
 }
 
 // The value of the decimal digits at the start of `text`, modulo 2^32; 0 without a leading digit.
-uint32_t ParseDecimal(std::string_view text);
+inline uint32_t ParseDecimal(std::string_view text) {
+  uint32_t value = 0;
+  for (char digit : text) {
+    if (digit < '0' || digit > '9') break;
+    value = value * 10 + static_cast<uint32_t>(digit - '0');
+  }
+  return value;
+}
 
 // The letter of the block that begins at the position: -1 when no ESC stands there, 0 when the
 // input ends right after the ESC.

@@ -1,6 +1,8 @@
 #include "records/status_block.h"
 
 #include <algorithm>
+#include <array>
+#include <iterator>
 
 #include "records/item_list.h"
 #include "records/reply_tables.h"
@@ -75,6 +77,19 @@ constexpr StatusClassRow kStatusClasses[] = {
     {0xFFFFFFFFu, 2},  // closing row: every other code
 };
 
+constexpr uint32_t kOtherClass = std::end(kStatusClasses)[-1].statusClass;
+
+// The classes by their codes.
+constexpr auto kClassOfCode = [] {
+  constexpr uint32_t kHighestCode = std::end(kStatusClasses)[-2].code;
+  std::array<uint8_t, kHighestCode + 1> classes;
+  classes.fill(kOtherClass);
+  for (const StatusClassRow& row : kStatusClasses) {
+    if (row.code <= kHighestCode) classes[row.code] = static_cast<uint8_t>(row.statusClass);
+  }
+  return classes;
+}();
+
 constexpr uint32_t kFieldLimit = 64;
 
 // Every "," and the CR behind the codes count one code each.
@@ -86,38 +101,35 @@ uint32_t CountCodes(const Field& codes) {
 }  // namespace
 
 uint32_t StatusClass(uint32_t code) {
-  const StatusClassRow* row = kStatusClasses;
-  while (row->code != code && row->code != 0xFFFFFFFFu)
-    ++row;
-  return row->statusClass;
+  return code < kClassOfCode.size() ? kClassOfCode[code] : kOtherClass;
 }
 
 //   1B 'S' CR  4 , 5 CR  0 CR  2 CR  3 LF
 //              codes     |     |     output bin in use, may be missing
 //                        |     tray in use
 //                        online flag, 0 means online
-void ParseStatusBlock(const Input& block, PrnInfoEx* record) {
+void ParseStatusBlock(const Input& block, Filling to) {
   Input fields = FieldsOf(block);
   const Field codes = ScanField(fields, kFieldLimit, kCarriageReturn);
-  RebuildItemList(record->statusList, record->statusCount, CountCodes(codes));
-  record->hasError = 0;
+  RebuildItemList(to.record->statusList, to.record->statusCount, CountCodes(codes), to.room);
+  to.record->hasError = 0;
   Input codeFields{codes.text.data(), codes.text.data() + codes.text.size()};
-  for (StatusNode* node = record->statusList; node; node = node->next) {
+  for (StatusNode* node = to.record->statusList; node; node = node->next) {
     node->code = static_cast<uint16_t>(ParseDecimal(ScanField(codeFields, 8, ',').text));
-    if (StatusClass(node->code) == StatusClassError) record->hasError = 1;
+    if (StatusClass(node->code) == StatusClassError) to.record->hasError = 1;
   }
 
   const char onlineFlag = Peek(fields);
-  record->online = ParseDecimal({&onlineFlag, 1}) == 0;
+  to.record->online = ParseDecimal({&onlineFlag, 1}) == 0;
   Skip(fields, 2);
 
   const Field tray = ReadField(fields, kFieldLimit, kCarriageReturn, kEscape);
-  record->currentTray = static_cast<uint16_t>(LookupNameCode(tray.text, kTrayLetters));
-  record->currentBin = 0;
+  to.record->currentTray = static_cast<uint16_t>(LookupNameCode(tray.text, kTrayLetters));
+  to.record->currentBin = 0;
   const bool trayCut = tray.delimiter == '\0' && Left(fields) > 0;
   if (tray.delimiter == kCarriageReturn || trayCut) {
     const Field bin = ReadField(fields, kFieldLimit, kEscape);
-    record->currentBin = static_cast<uint16_t>(LookupNameCode(bin.text, kBinNumbers));
+    to.record->currentBin = static_cast<uint16_t>(LookupNameCode(bin.text, kBinNumbers));
   }
 }
 

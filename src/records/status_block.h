@@ -3,8 +3,8 @@
 
 #include <cstdint>
 
+#include "records/room.h"
 #include "records/scanners.h"
-#include "stmdata/records.h"
 
 namespace stm {
 
@@ -13,7 +13,7 @@ enum : uint32_t { StatusClassReady = 0, StatusClassWarning = 1, StatusClassError
 // The class of a status code; codes that no row lists are errors.
 uint32_t StatusClass(uint32_t code);
 
-// Parses the block, its end left out, into `record`.
-void ParseStatusBlock(const Input& block, PrnInfoEx* record);
+// Parses the block, its end left out.
+void ParseStatusBlock(const Input& block, Filling to);
 
 }  // namespace stm

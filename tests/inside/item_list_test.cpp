@@ -92,6 +92,38 @@ TEST_CASE("a removed node leaves the others linked; a stranger is left alone") {
   stm::FreeItemList(stranger);
 }
 
+TEST_CASE("a list that is written anew takes its old nodes, emptied, then new ones") {
+  OptionNode* head = stm::AllocItemList<OptionNode>(2);
+  OptionNode* const old[] = {head, head->next};
+  old[1]->optionCode = old[1]->optionValue = 7;
+  OptionNode** link = &head;
+  CHECK(stm::NextItem(link, nullptr) == old[0]);
+  CHECK(stm::NextItem(link, nullptr) == old[1]);
+  CHECK(old[1]->optionCode == 0);
+  CHECK(old[1]->optionValue == 0);
+  CHECK(old[1]->nodeSize == sizeof(OptionNode));
+  OptionNode* added = stm::NextItem(link, nullptr);
+  CHECK(old[1]->next == added);
+  CHECK(link == &added->next);
+  stm::FreeItemList(head);
+}
+
+TEST_CASE("blocks come from the room as long as it lasts, zero-filled, then from global memory") {
+  stm::Room room{};
+  stm::Room before{};
+  void* blocks[sizeof room.bytes / 272 + 1];
+  for (void*& block : blocks) {
+    block = stm::TakeBlock(&room, 271);
+    CHECK(stm::HasBlock(room, block) == (&block != std::end(blocks) - 1));
+    CHECK(std::memcmp(block, before.bytes, 271) == 0);
+    std::memset(block, 0xA5, 271);
+  }
+  CHECK(!stm::HasBlock(room, room.bytes - 1));
+  CHECK(!stm::HasBlock(room, room.bytes + sizeof room.bytes));
+  for (void* block : blocks)
+    stm::ReleaseBlock(&room, block);
+}
+
 TEST_CASE("a name that no row holds gets the closing row's code") {
   constexpr stm::NameCode table[] = {{"A", 1}, {"AB", 2}, {"A", 3}, {nullptr, 255}};
   constexpr stm::NameCode empty[] = {{nullptr, 9}};
