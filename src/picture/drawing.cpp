@@ -23,9 +23,9 @@ void BlitBitmap(HDC target, HBITMAP bitmap, uint32_t rop) {
   const HDC source = CreateCompatibleDC(target);
   if (!source) return;
   const HGDIOBJ previous = SelectObject(source, bitmap);
-  BITMAP size;
-  if (GetObjectA(bitmap, sizeof size, &size))
-    BitBlt(target, 0, 0, size.bmWidth, size.bmHeight, source, 0, 0, rop);
+  BITMAP size{};
+  GetObjectA(bitmap, sizeof size, &size);
+  BitBlt(target, 0, 0, size.bmWidth, size.bmHeight, source, 0, 0, rop);
   SelectObject(source, previous);
   DeleteDC(source);
 }

@@ -78,16 +78,18 @@ static_assert(sizeof kErrPartsTable / sizeof kErrPartsTable[0] == 58);
 inline constexpr char kOfflineIcon[] = "ICO_OFFLINE";
 
 struct LevelIcon {
-  uint32_t lowest;  // per cent
-  uint32_t highest;
+  uint32_t highest;  // per cent; the lowest follows the row before
   const char* icon;
 };
 
 inline constexpr LevelIcon kLevelIcons[] = {
-    //  lowest  highest  icon
-    {0, 0, "ICO_PAP_0"},      {1, 24, "ICO_PAP_25"},
-    {25, 50, "ICO_PAP_50"},   {51, 75, "ICO_PAP_75"},
-    {76, 100, "ICO_PAP_100"}, {0, 0xFFFFFFFF, "ICO_PAP_75"},  // closing row: no percentage
+    //  highest  icon
+    {0, "ICO_PAP_0"},            //
+    {24, "ICO_PAP_25"},          //
+    {50, "ICO_PAP_50"},          //
+    {75, "ICO_PAP_75"},          //
+    {100, "ICO_PAP_100"},        //
+    {0xFFFFFFFF, "ICO_PAP_75"},  // closing row: no percentage
 };
 
 }  // namespace stm

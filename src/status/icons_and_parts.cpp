@@ -20,7 +20,7 @@ const char* StateIcon(uint32_t code, bool online) {
 
 const char* PaperLevelIcon(uint32_t level) {
   const LevelIcon* row = kLevelIcons;
-  while (level < row->lowest || level > row->highest)
+  while (level > row->highest)
     ++row;
   return row->icon;
 }

@@ -142,15 +142,14 @@ uint32_t ColourOf(uint32_t tonerCode) {
   return (tonerCode - kFirstTonerCode) % kColours;
 }
 
-// A line of its own with a name for each code, in the order of the codes.
+// A line of its own with a name for each code, in the order of the codes: those of one tie are all
+// toner codes or none of them is.
 Suffix FlatSuffix(const Statement& statement) {
   Suffix suffix{{}, 0, kFlatNamesCodePage};
   if (!IsTonerCode(statement.code)) return suffix;
   AddToSuffix(suffix, "\n");
-  for (uint32_t i = 0; i < statement.count; ++i) {
-    if (IsTonerCode(statement.codes[i]))
-      AddToSuffix(suffix, kColourNames[ColourOf(statement.codes[i])].flatName);
-  }
+  for (uint32_t i = 0; i < statement.count; ++i)
+    AddToSuffix(suffix, kColourNames[ColourOf(statement.codes[i])].flatName);
   return suffix;
 }
 
@@ -183,21 +182,20 @@ void AppendSuffix(const Suffix& suffix, const Target& target) {
 }
 
 // A single free byte may be where half a character had no room: asked again with room enough, the
-// text tells. Every text of the library is shorter than this.
+// text, which was there a moment ago, tells. Every text of the library is shorter than this.
 bool WasCut(const Statement& statement, uint32_t id, const Target& target) {
   constexpr int32_t kRoomForAnyText = 512;
   const size_t length = std::strlen(target.buffer);
   if (length + 2 != static_cast<size_t>(target.size)) return false;
-  char whole[kRoomForAnyText];
-  return statement.load(id, {whole, kRoomForAnyText, target.language}) &&
-         std::strlen(whole) > length;
+  char whole[kRoomForAnyText] = "";
+  statement.load(id, {whole, kRoomForAnyText, target.language});
+  return std::strlen(whole) > length;
 }
 
-// A code without a row has a text, but no suffix.
 uint32_t TellDetail(const Statement& statement, const Suffix& suffix, const Target& target) {
   const StatusRow& row = RowOf(statement);
   if (!Tell(statement.load, row.detailId, target)) return 0;
-  const bool wantsSuffix = suffix.length > 0 && !statement.offline && row.code != kStatusTableEnd;
+  const bool wantsSuffix = suffix.length > 0 && !statement.offline;
   if (wantsSuffix && !WasCut(statement, row.detailId, target)) AppendSuffix(suffix, target);
   return 1;
 }
@@ -276,8 +274,7 @@ uint32_t DetailOf(const PrnInfoEx& info, const Target& target) {
 }
 
 uint32_t RecoveryCode(const PrnInfo& info) {
-  const bool takesFirst =
-      HasSeveralStatuses(info) && !info.noResponse && !IsMildWhilePrinting(info);
+  const bool takesFirst = HasSeveralStatuses(info) && !info.noResponse;
   return FoldServiceCall(takesFirst ? info.statusList[0] : OwnCode(info));
 }
 

@@ -35,6 +35,13 @@ constexpr LocaleRow kLocales[] = {
     {"", kEnglish},  // closing row: C, POSIX and every other language
 };
 
+thread_local LANGID chosenLanguage = kNeutral;
+
+// Read when the library is loaded: a program's threads may change the environment later.
+const LANGID environmentLanguage = LanguageOfLocale(EnvironmentLocale());
+
+}  // namespace
+
 const char* EnvironmentLocale() {
   for (const char* name : {"LC_ALL", "LC_MESSAGES", "LANG"}) {
     const char* value = std::getenv(name);
@@ -42,13 +49,6 @@ const char* EnvironmentLocale() {
   }
   return "C";
 }
-
-thread_local LANGID chosenLanguage = kNeutral;
-
-// Read when the library is loaded: a program's threads may change the environment later.
-const LANGID environmentLanguage = LanguageOfLocale(EnvironmentLocale());
-
-}  // namespace
 
 LANGID LanguageOfLocale(const char* locale) {
   const size_t length = std::strcspn(locale, "_.@");

@@ -11,7 +11,10 @@ inline constexpr LANGID kNeutral = 0;
 // The language of a locale name such as "de_AT.UTF-8@euro"; English for a name without one.
 LANGID LanguageOfLocale(const char* locale);
 
-// That of the environment, which is read once.
+// The name of the environment's locale; "C" where it has none.
+const char* EnvironmentLocale();
+
+// Its language, as it was when the library was loaded.
 LANGID EnvironmentLanguage();
 
 }  // namespace stm
