@@ -238,6 +238,7 @@ const ListCase kListCases[] = {
      .currentTray = 3,
      .trays = {{4, 8, 5}},
      .expected = {1, 43, 3, 25, 6, 24, 5}},
+    {.why = "misfeed without tray 2", .statuses = {44}, .currentTray = 3, .expected = {1, 24, 5}},
     {.why = "back cover open: duplex unit and tray 3, a mask first",
      .statuses = {39},
      .trays = {{4, 8, 5}, {5, 8, 5}},

@@ -1,6 +1,7 @@
 #include <algorithm>
 #include <cstdlib>
 
+#include "allocation_faults.h"
 #include "doctest/doctest.h"
 #include "picture_support.h"
 
@@ -293,3 +294,33 @@ TEST_CASE("an empty list, no dialog and no control leave nothing behind" * kSkip
   CHECK(dialog.read() == before);
   CHECK(PatGetError() == PatErrorNone);
 }
+
+#ifndef _WIN32
+TEST_CASE("what finds no memory is not drawn and leaves nothing behind") {
+  PictureDialog dialog(320, 200, kGround);
+  const Pixels ground = dialog.read();
+  const PrnBitmap list = Compose(kPictures[1]);
+  const Pixels whole = DrawPlainly("", list, ground, 0).back().pixels;
+  const int32_t before = test::LiveBlocks();
+  test::FailAllocation(1, test::Faults::AllFromThere);
+  Draw(dialog, 0);
+  CHECK_FALSE(HostCreateDialog());
+  CHECK(test::EndFaults());
+  CHECK(dialog.read() == ground);
+  uint32_t number = 1;
+  for (bool failed = true; failed; ++number) {
+    test::FailAllocation(number, test::Faults::One);
+    Draw(dialog, 0);
+    failed = test::EndFaults();
+    CHECK(test::LiveBlocks() == before);
+  }
+  CHECK(number > 3);
+  CHECK(dialog.read() == whole);
+  for (uint32_t block : {1u, 2u}) {
+    test::FailAllocation(block, test::Faults::One);
+    CHECK_FALSE(HostAddPicture(dialog.handle(), 5, 2, 2));
+    CHECK(test::EndFaults());
+    CHECK(test::LiveBlocks() == before);
+  }
+}
+#endif

@@ -86,6 +86,12 @@ const FlatCase kDeviceIds[] = {
     {"nothing writes the model code only", "", [](PrnInfo& to) { to.modelCode = 0; }},
     {"a maker of sixteen characters loses one", "MFG:ABCDEFGHIJKLMNOP;",
      [](PrnInfo& to) { std::strcpy(to.manufacturer, "ABCDEFGHIJKLMNO"), to.modelCode = 0; }},
+    {"a double-byte character has no room", "MFG:ABCDEFGHIJKLMN\xE0\x40;",
+     [](PrnInfo& to) { std::strcpy(to.manufacturer, "ABCDEFGHIJKLMN"), to.modelCode = 0; }},
+    {"bytes that begin no double-byte character", "MFG:ABCDEFGHIJKL\x80\xB1\xFD\x40;",
+     [](PrnInfo& to) {
+       std::strcpy(to.manufacturer, "ABCDEFGHIJKL\x80\xB1\xFD"), to.modelCode = 0;
+     }},
     {"more languages than places", "CMD:" + std::string(83, ',') + ";",
      [](PrnInfo& to) {
        to.emulationCount = 84, to.modelCode = 0;

@@ -53,6 +53,15 @@ TEST_CASE("the state icon of both records") {
     CHECK(PatGetErrParts_Ex(&records.list, list.data()) == 1);
     CHECK(list.data() == row.list);
   }
+  // A list without a count, and the mark of several without a list.
+  test::BothRecords records({.statuses = {36}});
+  records.list.statusCount = records.flat.statusCount = 0;
+  records.flat.statusCode = StatusSeveralMarker;
+  char icon[17];
+  CHECK(PatGetErrParts(&records.flat, icon) == 1);
+  CHECK(icon == std::string("BMP_ERR_CAUTION"));
+  CHECK(PatGetErrParts_Ex(&records.list, icon) == 1);
+  CHECK(icon == std::string("ICO_ONLINE"));
 }
 
 TEST_CASE("the paper-level icon") {

@@ -100,6 +100,12 @@ const MessageCase kMessages[] = {
      "Toner is not placed properly.\nCheck the indicated unit.\n\n" + kMagenta,
      "Improper Toner Placement",
      "Toner is not placed properly.\nCheck the indicated unit.\nMagenta  "},
+    {"a colour of an offline printer without an error",
+     {.statuses = {66}, .online = false},
+     "Online/Ready",
+     "Toner is almost empty.\nAdd Toner.\n\n" + kMagenta,
+     "Offline",
+     kOffline},
     {"one colour",
      {.statuses = {66}},
      "Online/Ready",
@@ -192,6 +198,12 @@ TEST_CASE("a ready printer is told to have a missing or empty tray") {
     CHECK(Ask(PatGetDetailString, &records.flat) == row.flat);
     CHECK(Ask(PatGetDetailString_Ex, &records.list) == row.list);
   }
+  // A level of a tray that is not there, and a count without trays.
+  test::BothRecords records({.statuses = {0}});
+  records.flat.trayLevelCount = records.list.trayCount = 1;
+  records.flat.trayLevelList[0] = {3, 0};
+  CHECK(Ask(PatGetDetailString, &records.flat) == kNoText);
+  CHECK(Ask(PatGetDetailString_Ex, &records.list) == "");
 }
 
 TEST_CASE("the detail question leaves the chosen code in a flat record's only status") {
@@ -299,8 +311,9 @@ TEST_CASE("there is no recovery text and no help context") {
   test::SetThreadLanguage(1033);
   for (const char* language : {"EN", "JP"}) {
     Select(language);
-    for (const test::Said& said : {test::Said{}, test::Said{.statuses = {50, 88}, .printing = true},
-                                   test::Said{.statuses = {88}, .noResponse = true}}) {
+    for (const test::Said& said : {test::Said{}, test::Said{.statuses = {0}, .printing = true},
+                                   test::Said{.statuses = {50, 88}, .printing = true},
+                                   test::Said{.statuses = {50, 88}, .noResponse = true}}) {
       test::BothRecords records(said);
       CHECK(Ask(PatGetRecoveryString, &records.flat) == kNoText);
       CHECK(Ask(PatGetRecoveryString_Ex, &records.list) == "");

@@ -261,6 +261,12 @@ const GroupCase kGroupCases[] = {
      GroupStatusList, " status[0]", 1, "statusList[0] statusCount=1"},
     {"offline or silent without a status", [](PrintManager& m) { m.SetStatus(0x01000001); },
      GroupStatusList, " status[0]", 1, "statusList[0] statusCount=1"},
+    {"a state that tells nothing",
+     [](PrintManager& m) {
+       m.AddStatuses({5});
+       m.SetStatus(kNone);
+     },
+     GroupStatusList, " status[5]", 1, "statusList[5] statusCount=1"},
     {"the network's status before the bits",
      [](PrintManager& m) {
        m.AddStatuses({36});

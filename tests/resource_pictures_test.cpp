@@ -65,6 +65,7 @@ TEST_CASE("the pixels of bitmaps and icons can be read") {
   int32_t height = 0;
   pixels.assign(1025, 0xA5A5A5A5);
   const HICON icon = PatLoadIcon("ICO_ERR_JAM");
+  CHECK_FALSE(HostReadIcon(icon, nullptr, 1024, nullptr, nullptr));
   CHECK_FALSE(HostReadIcon(icon, pixels.data(), 1023, &width, &height));
   CHECK(pixels[0] == 0xA5A5A5A5);
   CHECK(width == 32);

@@ -27,6 +27,8 @@ TEST_CASE("a bitmap is found by name and its packed bytes are handed out") {
   CHECK(header[4] == 1);                // run-length encoded
 
   CHECK(PatFindResource("bmp_paper_r") == resource);
+  CHECK(DllMain(nullptr, 2, nullptr) == 1);  // a thread comes: the module stays
+  CHECK(PatFindResource("BMP_PAPER_R") == resource);
 }
 
 TEST_CASE("what is no bitmap of the library is not found") {

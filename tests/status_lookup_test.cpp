@@ -65,6 +65,7 @@ TEST_CASE("a status question without a record, a status or a place for the row i
   CHECK(PatGetError() == PatErrorNullRecord);
   PatGetPrinterStatus_Ex(&list, &row);
   CHECK(PatGetPrinterStatus(&flat, nullptr) == 0);
+  CHECK(PatGetPrinterStatus_Ex(&list, nullptr) == 0);
   CHECK(PatGetError() == PatErrorNullRecord);
   const StatusRow untouched = Poisoned();
   CHECK(std::memcmp(&row, &untouched, sizeof row) == 0);

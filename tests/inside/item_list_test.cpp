@@ -2,6 +2,7 @@
 
 #include "doctest/doctest.h"
 #include "records/name_table.h"
+#include "records/record.h"
 #include "support.h"
 
 namespace {
@@ -36,6 +37,7 @@ TEST_CASE("a fresh list has a node at least, each of its own size") {
   CHECK(test::Values(three, &OptionNode::nodeSize) == Codes{12, 12, 12});
   CHECK(stm::CountItems(three) == 3);
   stm::FreeItemList(three);
+  CHECK(stm::FreePrnInfoEx(nullptr) == 2);
 }
 
 TEST_CASE("a resized list keeps its first nodes and trusts no count") {

@@ -80,6 +80,10 @@ TEST_CASE("pictures and icons are stored under Japanese alone and found from eve
   CHECK(FindResourceA(nullptr, "ICO_PAP_0", RT_GROUP_ICON));
   CHECK(FindResourceA(nullptr, "#16", RT_ICON));
   CHECK_FALSE(FindResourceA(nullptr, "#17", RT_ICON));
+  CHECK_FALSE(FindResourceA(nullptr, "BMP_{", RT_BITMAP));
+  CHECK_FALSE(FindResourceA(nullptr, "#26", RT_BITMAP));
+  CHECK_FALSE(FindResourceA(nullptr, "BMP_P_BASE", RT_STRING));
+  CHECK_FALSE(FindResourceA(nullptr, "#65535", "#65535"));
 }
 
 #ifndef _WIN32

@@ -131,6 +131,8 @@ TEST_CASE("a text is cut between characters at every size") {
   Select("JP");
   for (uint32_t id : {600u, 714u, 930u})
     CheckEverySize(stm::LoadLocalizedString, id, Localized(id));
+  CHECK(stm::CountWholeCharacters(932, "A\x88\x9F\xB1", 2) == 1);
+  CHECK(stm::CountWholeCharacters(932, "A\x88\x9F\xB1", 4) == 4);
   test::SetThreadLanguage(1041);
   for (uint32_t id : {400u, 707u})
     CheckEverySize(stm::LoadModuleString, id, OfThread(id));

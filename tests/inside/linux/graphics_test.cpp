@@ -91,10 +91,19 @@ TEST_CASE("a blit takes the selected bitmap, the stock one of a black pixel at f
   CHECK_FALSE(SelectObject(source, bitmap));
   BITMAP size;
   CHECK(DeleteObject(stock));
+  CHECK(GetObjectA(stock, 23, &size) == 0);
+  CHECK(GetObjectA(stock, 0, nullptr) == 24);
   CHECK(GetObjectA(stock, sizeof size, &size) == 24);
+  CHECK(SelectObject(source, stock) == stock);
   CHECK(size.bmWidth == 1);
   CHECK(DeleteDC(source));
   CHECK(ReleaseDC(dialog.control(), target));
+}
+
+TEST_CASE("a block of no bytes is a block") {
+  const HGLOBAL block = GlobalAlloc(GMEM_FIXED, 0);
+  CHECK(block);
+  CHECK_FALSE(GlobalFree(block));
 }
 
 TEST_CASE("handles that are none are refused") {
@@ -102,11 +111,12 @@ TEST_CASE("handles that are none are refused") {
   const HDC target = GetDC(dialog.control());
   const HDC source = CreateCompatibleDC(target);
   const auto icon = reinterpret_cast<uintptr_t>(stm::LoadModuleIcon("ICO_ONLINE"));
+  const auto resource = reinterpret_cast<uintptr_t>(PatFindResource("BMP_P_BASE"));
   const auto own = reinterpret_cast<uintptr_t>(&dialog);
   char buffer[64];
   uint32_t pixels[1024];
   for (const uintptr_t value :
-       {uintptr_t{0}, icon, own, uintptr_t{0xFFFFFFFF}, uintptr_t{0x1000}}) {
+       {uintptr_t{0}, icon, resource, own, uintptr_t{0xFFFFFFFF}, uintptr_t{0x1000}}) {
     CAPTURE(value);
     CHECK_FALSE(DeleteObject(Foreign<HGDIOBJ>(value)));
     CHECK_FALSE(GetObjectA(Foreign<HGDIOBJ>(value), sizeof buffer, buffer));

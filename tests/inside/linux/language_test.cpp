@@ -1,5 +1,6 @@
 #include "platform/linux/language.h"
 
+#include <cstdlib>
 #include <string>
 
 #include "doctest/doctest.h"
@@ -19,6 +20,61 @@ TEST_CASE("a locale's name tells the language") {
     CAPTURE(row.locale);
     CHECK(stm::LanguageOfLocale(row.locale) == row.language);
   }
+}
+
+TEST_CASE("the first variable that is set names the environment's locale") {
+  const char* const names[] = {"LC_ALL", "LC_MESSAGES", "LANG"};
+  const struct {
+    const char* values[3];
+    std::string locale;
+  } rows[] = {
+      {{"de_DE", "fr_FR", "it_IT"}, "de_DE"},
+      {{"", "fr_FR", "it_IT"}, "fr_FR"},
+      {{nullptr, nullptr, "it_IT"}, "it_IT"},
+      {{nullptr, "", nullptr}, "C"},
+  };
+  const LANGID before = stm::EnvironmentLanguage();
+  for (const auto& row : rows) {
+    for (size_t i = 0; i < std::size(names); ++i)
+      row.values[i] ? setenv(names[i], row.values[i], 1) : unsetenv(names[i]);
+    CHECK(stm::EnvironmentLocale() == row.locale);
+  }
+  CHECK(stm::EnvironmentLanguage() == before);
+}
+
+TEST_CASE("text calls refuse what they do not know and what has no room") {
+  const auto refused = [](int32_t result, DWORD error) {
+    CHECK(result == 0);
+    CHECK(GetLastError() == error);
+    SetLastError(0);
+  };
+  const DWORD bad = ERROR_INVALID_PARAMETER;
+  const WCHAR a = 'A';
+  WCHAR unit = 0;
+  char byte = 'x';
+  BOOL used = 0;
+  refused(WideCharToMultiByte(12345, 0, &a, 1, &byte, 1, nullptr, nullptr), bad);
+  refused(WideCharToMultiByte(932, 0, nullptr, 1, &byte, 1, nullptr, nullptr), bad);
+  refused(WideCharToMultiByte(932, 0, &a, 0, &byte, 1, nullptr, nullptr), bad);
+  refused(WideCharToMultiByte(932, 0, &a, 1, &byte, -1, nullptr, nullptr), bad);
+  refused(WideCharToMultiByte(932, 0, &a, 1, nullptr, 1, nullptr, nullptr), bad);
+  refused(WideCharToMultiByte(932, 0, &a, 1, &byte, 1, "?", nullptr), bad);
+  refused(WideCharToMultiByte(932, 0, &a, 1, &byte, 1, nullptr, &used), bad);
+  refused(WideCharToMultiByte(932, 1, &a, 1, &byte, 1, nullptr, nullptr), ERROR_INVALID_FLAGS);
+  refused(MultiByteToWideChar(932, 0, nullptr, 1, &unit, 1), bad);
+  refused(MultiByteToWideChar(932, 0, &byte, 1, &unit, -1), bad);
+  refused(MultiByteToWideChar(932, 0, &byte, 1, nullptr, 1), bad);
+  refused(MultiByteToWideChar(932, 1, &byte, 1, &unit, 1), ERROR_INVALID_FLAGS);
+  refused(GetLocaleInfoA(0x0411, 1, &byte, 1), ERROR_INVALID_FLAGS);
+  refused(GetLocaleInfoA(0x0411, LOCALE_IDEFAULTANSICODEPAGE, &byte, 1), ERROR_INSUFFICIENT_BUFFER);
+  refused(GetLocaleInfoA(0x0411, LOCALE_IDEFAULTANSICODEPAGE, nullptr, 9),
+          ERROR_INSUFFICIENT_BUFFER);
+  refused(LoadStringA(nullptr, 400, nullptr, 9), 0);
+  refused(LoadStringA(nullptr, 400, &byte, 0), 0);
+  refused(IsDBCSLeadByteEx(12345, 0x81), 0);
+  CHECK(byte == 'x');
+  CHECK(unit == 0);
+  CHECK(GetLocaleInfoA(0x0411, LOCALE_IDEFAULTANSICODEPAGE, nullptr, 0) == 4);
 }
 
 TEST_CASE("the thread's language chooses table and code page; one without a table is English") {
