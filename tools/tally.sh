@@ -94,6 +94,16 @@ valgrind_check() {
   rm -f "$log"
 }
 
+# coverage: what the library's tests reach of src/, from counts of this run alone.
+coverage() {
+  local report=build/coverage/report.json
+  find build/coverage -name '*.gcda' -delete
+  programs coverage build/coverage
+  quietly "reading the counts" gcovr --root . --filter src/ --exclude-throw-branches \
+    --exclude-unreachable-branches --json "$report" build/coverage/CMakeFiles/stmdata_objects.dir &&
+    tools/coverage.py "$report" && passed=$((passed + 1)) || count_failure "coverage"
+}
+
 # fuzz_targets SECONDS: each target over its corpus, then onwards for so long. One test a target.
 fuzz_targets() {
   local target name log seeds scratch

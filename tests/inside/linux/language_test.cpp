@@ -4,6 +4,7 @@
 #include <string>
 
 #include "doctest/doctest.h"
+#include "resources/language.h"
 #include "resources/strings.h"
 
 TEST_CASE("a locale's name tells the language") {
@@ -97,6 +98,10 @@ TEST_CASE("the thread's language chooses table and code page; one without a tabl
     CHECK(GetLocaleInfoA(0, LOCALE_IDEFAULTANSICODEPAGE, text, sizeof text) ==
           static_cast<int32_t>(row.codePage.size() + 1));
     CHECK(text == row.codePage);
+    for (const LANGID language : {LANGID{0}, row.language})
+      CHECK(std::to_string(stm::CodePageOf(language)) == row.codePage);
+    CHECK(stm::LoadStringIn(0, 400, text, sizeof text) == 1);
+    CHECK(text == row.ready);
   }
   SetThreadUILanguage(0x0411);
   char name[] = "\x83z\x82\x81\x82";
