@@ -178,7 +178,7 @@ uint32_t STM_CALL SetPrnInfoFromReadbackCmd(PrnInfo* record, const char* reply, 
   if (!temporary) return 0;
   const stm::ReplyResult result =
       stm::ReadReply({&temporary->record, &temporary->room}, reply, length);
-  stm::ConvertToPrnInfo(temporary->record, record, result.groups);
+  stm::ConvertToPrnInfo(temporary->record, record, result.parseFlags);
   stm::FreePrnInfoEx(temporary);
   return result.walked;
 }

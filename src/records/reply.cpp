@@ -3,7 +3,6 @@
 #include <array>
 #include <cstring>
 
-#include "platform/shared_value.h"
 #include "records/configuration_blocks.h"
 #include "records/option_blocks.h"
 #include "records/paper_blocks.h"
@@ -13,8 +12,6 @@
 
 namespace stm {
 namespace {
-
-std::atomic<uint32_t> lastParseFlags{0};
 
 // How much of the reply a block is. A block that the reply cuts off says nothing reliable: it takes
 // nothing.
@@ -101,20 +98,12 @@ uint32_t WalkReply(Input rest, Filling to) {
 
 }  // namespace
 
-uint32_t LastParseFlags() {
-  return lastParseFlags.load(std::memory_order_relaxed);
-}
-
 ReplyResult ReadReply(Filling to, const char* reply, int32_t length) {
-  ReplyResult result{0, 0};
-  const bool given = to.record && reply;
-  if (given && length <= 0) {
-    result.walked = 1;
-  } else if (given && BlockLetter({reply, reply + length}) != -1) {
-    result = {1, WalkReply({reply, reply + length}, to)};
-  }
-  SetShared(lastParseFlags, result.groups);
-  return result;
+  if (!to.record || !reply) return {0, 0};
+  if (length <= 0) return {1, 0};
+  const Input input{reply, reply + length};
+  if (BlockLetter(input) == -1) return {0, 0};
+  return {1, WalkReply(input, to)};
 }
 
 }  // namespace stm

@@ -9,13 +9,10 @@ namespace stm {
 
 // What a reply of `length` bytes gave.
 struct ReplyResult {
-  uint32_t walked;  // 1, or 0 when the bytes are no reply
-  uint32_t groups;  // group bits of the blocks that were parsed
+  uint32_t walked;      // 1, or 0 when the bytes are no reply
+  uint32_t parseFlags;  // group bits of the blocks that were parsed
 };
 
 ReplyResult ReadReply(Filling to, const char* reply, int32_t length);
-
-// The groups of the most recent reply; one value for the process.
-uint32_t LastParseFlags();
 
 }  // namespace stm

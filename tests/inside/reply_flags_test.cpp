@@ -1,9 +1,9 @@
-// The group bits that a walk leaves behind, which no exported call tells.
+// The group bits of a walk, which no exported call tells.
 #include "doctest/doctest.h"
 #include "records/reply.h"
 #include "support.h"
 
-TEST_CASE("a walk leaves the group bits of the blocks that it dispatched") {
+TEST_CASE("a walk gives the group bits of the blocks that it dispatched") {
   struct {
     const char* why;
     std::string reply;
@@ -12,6 +12,7 @@ TEST_CASE("a walk leaves the group bits of the blocks that it dispatched") {
   } const rows[] = {
       {"status and trays", "\x1BS\r0\r0\r1\r1\n\x1BT\r1\r5\n\x1B ", 1, 0x8000A},
       {"the end marker alone", "\x1B ", 1, 0},
+      {"no bytes", "", 1, 0},
       {"no block at the start", "S\r0\r0\r1\r1\n", 0, 0},
       {"levels and bins", "\x1BZ\r1\r5\n\x1BL\r1\r0\n", 1, 0x18},
       {"an unknown letter ends the walk", "\x1BS\r0\r0\r1\r1\n\x1BH\n\x1BT\r1\r5\n", 1, 0x80002},
@@ -20,17 +21,9 @@ TEST_CASE("a walk leaves the group bits of the blocks that it dispatched") {
   for (const auto& row : rows) {
     CAPTURE(row.why);
     test::Record record;
-    CHECK(test::Parse(record, row.reply) == row.result);
-    CHECK(stm::LastParseFlags() == row.groups);
-  }
-}
-
-TEST_CASE("the groups of an earlier walk are forgotten, also by a call that walks nothing") {
-  test::Record record;
-  for (int32_t length : {0, -1, INT32_MIN}) {
-    test::Parse(record, "\x1BL\r1\r0\n");
-    REQUIRE(stm::LastParseFlags() == GroupBins);
-    CHECK(SetPrnInfoExFromReadbackCmd(&record, "\x1BL\r1\r0\n", length) == 1);
-    CHECK(stm::LastParseFlags() == 0);
+    const auto length = static_cast<int32_t>(row.reply.size());
+    const stm::ReplyResult result = stm::ReadReply({&record, nullptr}, row.reply.data(), length);
+    CHECK(result.walked == row.result);
+    CHECK(result.parseFlags == row.groups);
   }
 }
