@@ -6,6 +6,9 @@ namespace {
 
 constexpr uint32_t kWhite = 0x00FFFFFF;
 
+// Pixels begin where a line of the processor's cache does: wide stores are then not cut in two.
+constexpr uint32_t kAlignment = 64;
+
 stm::Picture* FindPicture(HWND handle, int32_t id) {
   const auto* dialog = stm::Find<stm::Dialog>(handle);
   stm::Picture* picture = dialog ? dialog->first : nullptr;
@@ -32,15 +35,18 @@ BOOL STM_CALL HostAddPicture(HWND handle, int32_t controlId, int32_t width, int3
   if (width < 1 || width > stm::kLargestSide || height < 1 || height > stm::kLargestSide) return 0;
   // Less than 2^32: the largest side squared is below 2^30.
   const uint32_t count = static_cast<uint32_t>(width) * static_cast<uint32_t>(height);
-  auto* pixels = static_cast<uint32_t*>(GlobalAlloc(GMEM_FIXED, count * sizeof(uint32_t)));
-  if (!pixels) return 0;
+  const HGLOBAL block = GlobalAlloc(GMEM_FIXED, count * sizeof(uint32_t) + kAlignment);
+  if (!block) return 0;
   auto* picture = stm::NewObject<stm::Picture>();
   if (!picture) {
-    GlobalFree(pixels);
+    GlobalFree(block);
     return 0;
   }
+  const auto address = reinterpret_cast<uintptr_t>(block);
+  auto* pixels = reinterpret_cast<uint32_t*>((address + kAlignment - 1) / kAlignment * kAlignment);
   std::fill_n(pixels, count, kWhite);
   picture->id = controlId;
+  picture->block = block;
   picture->frame = {pixels, width, height};
   picture->next = dialog->first;
   dialog->first = picture;
@@ -61,7 +67,7 @@ BOOL STM_CALL HostDestroyDialog(HWND handle) {
   if (!dialog) return 0;
   while (stm::Picture* picture = dialog->first) {
     dialog->first = picture->next;
-    GlobalFree(picture->frame.pixels);
+    GlobalFree(picture->block);
     stm::ReleaseObject(picture);
   }
   stm::ReleaseObject(dialog);

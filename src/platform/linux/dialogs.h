@@ -10,7 +10,8 @@ struct Picture : Object {
   static constexpr Kind kKind = Kind::Picture;
   Picture* next;
   int32_t id;
-  Frame frame;  // a global memory block of its own
+  Frame frame;
+  HGLOBAL block;  // where its pixels lie
 };
 
 struct Dialog : Object {

@@ -2,6 +2,7 @@
 
 #include <algorithm>
 #include <cstring>
+#include <iterator>
 
 namespace stm {
 namespace {
@@ -28,103 +29,176 @@ struct Stroke {
   uint32_t flip;
 };
 
-// An operation's truth table: result bit number (source bit * 2 + destination bit).
-Stroke StrokeOf(uint32_t truth, uint32_t color) {
+// The operation where the source's bits are 0, and where they are 1.
+struct Operation {
+  Stroke zeros;
+  Stroke ones;
+};
+
+// A truth table: result bit number (source bit * 2 + destination bit).
+Operation OperationOf(uint32_t truth) {
   const auto spread = [&](uint32_t bit) { return truth >> bit & 1 ? kColorMask : 0; };
-  const uint32_t flip = (~color & spread(0)) | (color & spread(2));
-  const uint32_t set = (~color & spread(1)) | (color & spread(3));
-  return {(flip ^ set) & kColorMask, flip & kColorMask};
+  return {{spread(0) ^ spread(1), spread(0)}, {spread(2) ^ spread(3), spread(2)}};
+}
+
+Stroke StrokeOf(const Operation& operation, uint32_t color) {
+  return {(operation.zeros.keep & ~color) | (operation.ones.keep & color),
+          (operation.zeros.flip & ~color) | (operation.ones.flip & color)};
 }
 
 // One stroke more than a byte can select: the black of pixels that the bytes leave out.
 constexpr uint32_t kMissing = 256;
 
+// Combines the pixels of a long run. The arguments travel in registers.
+#define STM_BRUSH __attribute__((regparm(3))) void
+using Brush = STM_BRUSH (*)(uint32_t* pixel, int32_t count, const Stroke& stroke);
+
 struct Painter {
   Frame frame;
-  int32_t offsetX;  // of the bitmap's left edge in the frame
-  int32_t offsetY;
-  int32_t left;  // what is painted, in the frame's coordinates
+  Brush brush;
+  int32_t offsetX;   // of the bitmap's left edge in the frame
+  int32_t firstRow;  // of the frame, for the bitmap's first line
+  int32_t left;      // what is painted, in the frame's coordinates
   int32_t top;
   int32_t right;
   int32_t bottom;
-  uint32_t truth;
+  Operation operation;
   Stroke strokes[kMissing + 1];
 };
 
-// A line of the bitmap as it falls into the frame: bitmap columns `begin` to `end` are visible, and
-// column c lies at pixels[c - begin].
-struct Line {
+// A row of the frame, painted from `left` to `right`. On a hidden one nothing lies between them.
+struct Row {
   uint32_t* pixels;
-  int32_t begin;
-  int32_t end;
+  int32_t left;
+  int32_t right;
 };
 
-Line LineAt(const Dib& dib, const Painter& painter, int32_t line) {
-  const int32_t y = painter.offsetY + (dib.topDown ? line : dib.height - 1 - line);
-  if (y < painter.top || y >= painter.bottom) return {nullptr, 0, 0};
-  return {painter.frame.pixels + y * painter.frame.width + painter.left,
-          painter.left - painter.offsetX, painter.right - painter.offsetX};
+// The row that a line of the bitmap falls into.
+Row RowOf(const Dib& dib, const Painter& painter, int32_t line) {
+  const int32_t y = painter.firstRow + (dib.topDown ? line : -line);
+  if (y < painter.top || y >= painter.bottom) return {nullptr, painter.right, painter.right};
+  return {painter.frame.pixels + y * painter.frame.width, painter.left, painter.right};
 }
 
-void Brush(uint32_t* pixel, const Stroke& stroke) {
-  *pixel = (*pixel & stroke.keep) ^ stroke.flip;
+uint32_t Brushed(uint32_t pixel, const Stroke& stroke) {
+  return (pixel & stroke.keep) ^ stroke.flip;
 }
 
-bool ChangesNothing(const Stroke& stroke) {
-  return stroke.keep == kColorMask && stroke.flip == 0;
-}
+// ---- Runs -------------------------------------------------------------------------------------
 
-// Sixteen bytes at a time: most of a picture's pixels are written here.
-void Fill(uint32_t* pixel, uint32_t* end, uint32_t color) {
-  const uint32_t block[4] = {color, color, color, color};
-  for (; end - pixel >= 4; pixel += 4)
-    std::memcpy(pixel, block, sizeof block);
-  for (; pixel != end; ++pixel)
-    *pixel = color;
-}
+// Pixels side by side that are combined at once.
+using Four = uint32_t __attribute__((vector_size(16)));
+using Eight = uint32_t __attribute__((vector_size(32)));
 
-// Most runs of a layer change nothing or replace what is there.
-void PaintRun(const Line& line, int32_t x, int32_t count, const Stroke& stroke) {
-  if (ChangesNothing(stroke)) return;
-  const int32_t begin = std::max(x, line.begin) - line.begin;
-  const int32_t end = std::min(x + count, line.end) - line.begin;
-  if (begin >= end) return;
+// Paints a block or more. The last block may overlap the one before it, and writes the same there:
+// it is read before anything is written.
+template <class Block>
+__attribute__((always_inline)) inline void PaintBlocks(uint32_t* pixel, int32_t count,
+                                                       const Stroke& stroke) {
+  constexpr int32_t kSize = sizeof(Block) / sizeof *pixel;
+  const Block keep = stroke.keep - Block{};
+  const Block flip = stroke.flip - Block{};
+  uint32_t* const last = pixel + count - kSize;
   if (stroke.keep == 0) {
-    Fill(line.pixels + begin, line.pixels + end, stroke.flip);
+    for (; last - pixel > 3 * kSize; pixel += 4 * kSize) {
+      for (int32_t i = 0; i < 4; ++i)
+        std::memcpy(pixel + i * kSize, &flip, sizeof flip);
+    }
+    for (; pixel < last; pixel += kSize)
+      std::memcpy(pixel, &flip, sizeof flip);
+    std::memcpy(last, &flip, sizeof flip);
+    return;
+  }
+  Block end;
+  std::memcpy(&end, last, sizeof end);
+  end = (end & keep) ^ flip;
+  for (; pixel < last; pixel += kSize) {
+    Block block;
+    std::memcpy(&block, pixel, sizeof block);
+    block = (block & keep) ^ flip;
+    std::memcpy(pixel, &block, sizeof block);
+  }
+  std::memcpy(last, &end, sizeof end);
+}
+
+// The shortest run for a brush.
+constexpr int32_t kLongRun = kWidestBlock;
+
+__attribute__((target("avx2"))) STM_BRUSH BrushEights(uint32_t* pixel, int32_t count,
+                                                      const Stroke& stroke) {
+  PaintBlocks<Eight>(pixel, count, stroke);
+}
+
+__attribute__((target("sse2"))) STM_BRUSH BrushFours(uint32_t* pixel, int32_t count,
+                                                     const Stroke& stroke) {
+  PaintBlocks<Four>(pixel, count, stroke);
+}
+
+STM_BRUSH BrushSingles(uint32_t* pixel, int32_t count, const Stroke& stroke) {
+  for (uint32_t* const end = pixel + count; pixel != end; ++pixel)
+    *pixel = Brushed(*pixel, stroke);
+}
+
+// The build asks for no particular processor: the brush is chosen where it runs.
+Brush ChooseBrush(uint32_t widestBlock) {
+  if (widestBlock >= 8 && __builtin_cpu_supports("avx2")) return BrushEights;
+  return widestBlock >= 4 && __builtin_cpu_supports("sse2") ? BrushFours : BrushSingles;
+}
+
+void PaintPixels(const Painter& painter, uint32_t* pixel, int32_t count, const Stroke& stroke) {
+  if (count >= kLongRun) {
+    painter.brush(pixel, count, stroke);
   } else {
-    for (uint32_t* pixel = line.pixels + begin; pixel != line.pixels + end; ++pixel)
-      Brush(pixel, stroke);
+    for (; count > 0; --count, ++pixel)
+      *pixel = Brushed(*pixel, stroke);
   }
 }
 
-void PaintPair(const Line& line, int32_t x, int32_t count, const Stroke& even, const Stroke& odd) {
-  const int32_t end = std::min(x + count, line.end);
-  for (int32_t c = std::max(x, line.begin); c < end; ++c)
-    Brush(line.pixels + (c - line.begin), (c - x) & 1 ? odd : even);
+// The columns `x` to `end` of the row; `end` is not beyond those that are painted.
+void PaintRun(const Painter& painter, const Row& row, int32_t x, int32_t end,
+              const Stroke& stroke) {
+  const int32_t begin = std::max(x, row.left);
+  if (begin < end) PaintPixels(painter, row.pixels + begin, end - begin, stroke);
 }
 
-template <uint32_t bits>
-uint32_t IndexAt(const uint8_t* bytes, uint32_t pixel) {
-  constexpr uint32_t perByte = 8 / bits;
-  const uint32_t shift = (perByte - 1 - pixel % perByte) * bits;
-  return bytes[pixel / perByte] >> shift & ((1u << bits) - 1);
+void PaintPair(const Row& row, int32_t x, int32_t end, const Stroke& even, const Stroke& odd) {
+  for (int32_t c = std::max(x, row.left); c < end; ++c)
+    row.pixels[c] = Brushed(row.pixels[c], (c - x) & 1 ? odd : even);
 }
 
+// ---- Single pixels ----------------------------------------------------------------------------
+
+// The first index is that of column `x`.
 template <uint32_t bits>
-void PaintIndices(const Painter& painter, const Line& line, int32_t x, int32_t count,
+void PaintIndices(const Painter& painter, const Row& row, int32_t x, int32_t end,
                   const uint8_t* bytes) {
-  const int32_t end = std::min(x + count, line.end);
-  for (int32_t c = std::max(x, line.begin); c < end; ++c) {
-    const uint32_t index = IndexAt<bits>(bytes, static_cast<uint32_t>(c - x));
-    Brush(line.pixels + (c - line.begin), painter.strokes[index]);
+  constexpr uint32_t kPerByte = 8 / bits;
+  const int32_t begin = std::max(x, row.left);
+  if (begin >= end) return;
+  uint32_t* pixel = row.pixels + begin;
+  const auto paint = [&](uint32_t byte, uint32_t place) {
+    const uint32_t index = byte >> (8 - bits - place * bits) & ((1u << bits) - 1);
+    *pixel = Brushed(*pixel, painter.strokes[index]);
+    ++pixel;
+  };
+  const auto count = static_cast<uint32_t>(end - x);
+  auto i = static_cast<uint32_t>(begin - x);
+  for (; i < count && i % kPerByte != 0; ++i)
+    paint(bytes[i / kPerByte], i % kPerByte);
+  for (; i + kPerByte <= count; i += kPerByte) {
+    const uint32_t byte = bytes[i / kPerByte];
+    for (uint32_t place = 0; place < kPerByte; ++place)
+      paint(byte, place);
   }
+  for (; i < count; ++i)
+    paint(bytes[i / kPerByte], i % kPerByte);
 }
 
-void PaintColors(const Painter& painter, const Line& line, const uint8_t* bytes) {
-  for (int32_t c = line.begin; c < line.end; ++c) {
-    const uint8_t* p = bytes + 3 * c;
+void PaintColors(const Painter& painter, const Row& row, const uint8_t* bytes) {
+  for (int32_t c = row.left; c < row.right; ++c) {
+    const uint8_t* p = bytes + 3 * (c - painter.offsetX);
     const uint32_t color = Word(p) | static_cast<uint32_t>(p[2]) << 16;
-    Brush(line.pixels + (c - line.begin), StrokeOf(painter.truth, color));
+    row.pixels[c] = Brushed(row.pixels[c], StrokeOf(painter.operation, color));
   }
 }
 
@@ -132,52 +206,86 @@ void PaintPlain(const Dib& dib, const Painter& painter) {
   const uint64_t used = (static_cast<uint64_t>(dib.width) * dib.bitsPerPixel + 7) / 8;
   const uint64_t stride = (used + 3) / 4 * 4;
   const auto size = static_cast<uint64_t>(dib.end - dib.bits);
-  for (int32_t y = 0; y < dib.height; ++y) {
-    const Line line = LineAt(dib, painter, y);
-    if (!line.pixels) continue;
-    const uint64_t offset = static_cast<uint64_t>(y) * stride;
+  for (int32_t line = 0; line < dib.height; ++line) {
+    const Row row = RowOf(dib, painter, line);
+    if (!row.pixels) continue;
+    const uint64_t offset = static_cast<uint64_t>(line) * stride;
     if (offset + used > size) {
-      PaintRun(line, 0, dib.width, painter.strokes[kMissing]);
+      PaintRun(painter, row, row.left, row.right, painter.strokes[kMissing]);
       continue;
     }
     const uint8_t* bytes = dib.bits + offset;
     switch (dib.bitsPerPixel) {
       case 1:
-        PaintIndices<1>(painter, line, 0, dib.width, bytes);
+        PaintIndices<1>(painter, row, painter.offsetX, row.right, bytes);
         break;
       case 4:
-        PaintIndices<4>(painter, line, 0, dib.width, bytes);
+        PaintIndices<4>(painter, row, painter.offsetX, row.right, bytes);
         break;
       case 8:
-        PaintIndices<8>(painter, line, 0, dib.width, bytes);
+        PaintIndices<8>(painter, row, painter.offsetX, row.right, bytes);
         break;
       default:
-        PaintColors(painter, line, bytes);
+        PaintColors(painter, row, bytes);
         break;
     }
   }
 }
 
-// Where the decoder stands. It only moves forward, so each pixel is painted exactly once.
-struct Cursor {
-  int32_t x;
-  int32_t y;  // lines from the bitmap's first
-  Line line;
+// ---- Run lengths ------------------------------------------------------------------------------
+
+// What a run's second byte says: two indices in turn, one, or one that leaves pixels as they are.
+enum class Run : uint8_t { Pair, Single, Nothing };
+
+struct RunTable {
+  Run kinds[256];
+  Stroke strokes[256];  // of the single ones
 };
 
-// Moves on and paints what is passed over black; the frame's edges stop the movement.
-void MoveTo(const Dib& dib, const Painter& painter, Cursor& cursor, int32_t x, int32_t y) {
-  const Stroke& missing = painter.strokes[kMissing];
-  while (cursor.y < std::min(y, dib.height)) {
-    PaintRun(cursor.line, cursor.x, dib.width - cursor.x, missing);
-    cursor.x = 0;
-    ++cursor.y;
-    cursor.line = LineAt(dib, painter, cursor.y);
+template <uint32_t bits>
+RunTable RunsOf(const Painter& painter) {
+  RunTable runs;
+  std::fill_n(runs.kinds, std::size(runs.kinds), Run::Pair);
+  for (uint32_t index = 0; index < 1u << bits; ++index) {
+    const Stroke& stroke = painter.strokes[index];
+    const bool nothing = stroke.keep == kColorMask && stroke.flip == 0;
+    const uint32_t value = bits == 4 ? index * 0x11 : index;
+    runs.kinds[value] = nothing ? Run::Nothing : Run::Single;
+    runs.strokes[value] = stroke;
   }
-  if (cursor.y == dib.height) return;
-  x = std::min(x, dib.width);
-  PaintRun(cursor.line, cursor.x, x - cursor.x, missing);
-  cursor.x = x;
+  return runs;
+}
+
+// Where the decoder stands. It only moves forward, so each pixel is painted exactly once.
+struct Place {
+  int32_t x;  // of the frame, at most the painter's right
+  int32_t line;
+};
+
+// Moves on and paints what is passed over black.
+Place MoveTo(const Dib& dib, const Painter& painter, Place at, int32_t x, int32_t line) {
+  const Stroke& missing = painter.strokes[kMissing];
+  for (; at.line < std::min(line, dib.height); ++at.line) {
+    PaintRun(painter, RowOf(dib, painter, at.line), at.x, painter.right, missing);
+    at.x = painter.offsetX;
+  }
+  if (at.line == dib.height) return at;
+  x = std::min(x, painter.right);
+  PaintRun(painter, RowOf(dib, painter, at.line), at.x, x, missing);
+  return {x, line};
+}
+
+// How many times the `period` bytes before `in` are there again from `in` on.
+int32_t Repetitions(const uint8_t* in, const uint8_t* end, int32_t period) {
+  const auto word = [](const uint8_t* bytes) {
+    uint64_t value;
+    std::memcpy(&value, bytes, sizeof value);
+    return value;
+  };
+  const uint8_t* same = in;
+  while (end - same >= 8 && word(same) == word(same - period))
+    same += 8;
+  return static_cast<int32_t>(same - in) / period;
 }
 
 // RLE4 (two indices a byte) and RLE8, each step two bytes or more:
@@ -186,42 +294,83 @@ void MoveTo(const Dib& dib, const Painter& painter, Cursor& cursor, int32_t x, i
 //   0 1                the end
 //   0 2 dx dy          on by so many pixels and lines
 //   0 n bytes          n pixels one by one, padded to an even number of bytes
-template <uint32_t bits>
-void PaintRle(const Dib& dib, const Painter& painter) {
+//
+// Two versions each, and none of them within its caller: the loop then gets along with the few
+// registers that there are. Not `clipped` are bitmaps that lie in the frame but for their right.
+template <uint32_t bits, bool clipped>
+__attribute__((noinline)) void PaintRle(const Dib& dib, const Painter& painter) {
+  const RunTable runs = RunsOf<bits>(painter);
+  const int32_t right = painter.right;
   const uint8_t* in = dib.bits;
-  Cursor at{0, 0, LineAt(dib, painter, 0)};
-  while (at.y < dib.height && dib.end - in >= 2) {
-    const int32_t count = in[0];
-    const uint32_t value = in[1];
-    in += 2;
-    if (count > 0) {
-      const int32_t shown = std::min(count, dib.width - at.x);
-      const Stroke& even = painter.strokes[bits == 4 ? value >> 4 : value];
-      const Stroke& odd = painter.strokes[bits == 4 ? value & 15 : value];
-      if (&even == &odd) {
-        if (!ChangesNothing(even)) PaintRun(at.line, at.x, shown, even);
-      } else {
-        PaintPair(at.line, at.x, shown, even, odd);
+  const uint8_t* const last = dib.end - 1;
+  Place at{painter.offsetX, 0};
+  while (at.line < dib.height) {
+    const Row row =
+        clipped ? RowOf(dib, painter, at.line)
+                : Row{painter.frame.pixels + (painter.firstRow - at.line) * painter.frame.width,
+                      painter.offsetX, right};
+    // The line's first byte as long as its steps leave every pixel as it is.
+    const uint8_t* unchanged = at.x == painter.offsetX ? in : nullptr;
+    int32_t x = at.x;
+    for (;;) {
+      if (in >= last) {
+        MoveTo(dib, painter, {x, at.line}, 0, dib.height);
+        return;
       }
-      at.x += shown;
-    } else if (value == 0) {
-      MoveTo(dib, painter, at, 0, at.y + 1);
-    } else if (value == 1) {
-      break;
-    } else if (value == 2) {
-      if (dib.end - in < 2) break;
-      MoveTo(dib, painter, at, at.x + in[0], at.y + in[1]);
+      const int32_t count = in[0];
+      const uint32_t value = in[1];
       in += 2;
-    } else {
-      const auto left = static_cast<uint32_t>(std::min<int64_t>(dib.end - in, 256));
-      const uint32_t whole = std::min(value, left * (8 / bits));
-      const int32_t shown = std::min(static_cast<int32_t>(whole), dib.width - at.x);
-      PaintIndices<bits>(painter, at.line, at.x, shown, in);
-      at.x += shown;
-      in += std::min((value * bits + 15) / 16 * 2, left);
+      if (count > 0) {
+        const int32_t from = x;
+        x = std::min(x + count, right);
+        const Run kind = runs.kinds[value];
+        if (kind == Run::Nothing) continue;
+        unchanged = nullptr;
+        if (kind == Run::Pair)
+          PaintPair(row, from, x, painter.strokes[value >> 4], painter.strokes[value & 15]);
+        else if (clipped)
+          PaintRun(painter, row, from, x, runs.strokes[value]);
+        else
+          PaintPixels(painter, row.pixels + from, x - from, runs.strokes[value]);
+      } else if (value > 2) {
+        const auto left = static_cast<uint32_t>(dib.end - in);
+        const uint32_t used = std::min((value * bits + 15) / 16 * 2, left);
+        const auto pixels = static_cast<int32_t>(std::min(value, used * (8 / bits)));
+        const int32_t end = std::min(x + pixels, right);
+        PaintIndices<bits>(painter, row, x, end, in);
+        in += used;
+        x = end;
+        unchanged = nullptr;
+      } else if (value == 0 && x < right) {
+        at = MoveTo(dib, painter, {x, at.line}, painter.offsetX, at.line + 1);
+        break;
+      } else if (value == 0) {
+        at = {painter.offsetX, at.line + 1};
+        // The lines around a layer's part are all alike: their bytes are only compared.
+        if (unchanged) {
+          const auto period = static_cast<int32_t>(in - unchanged);
+          const int32_t lines = std::min(Repetitions(in, dib.end, period), dib.height - at.line);
+          in += lines * period;
+          at.line += lines;
+        }
+        break;
+      } else if (value == 2 && dib.end - in >= 2) {
+        at = MoveTo(dib, painter, {x, at.line}, x + in[0], at.line + in[1]);
+        in += 2;
+        break;
+      } else {
+        MoveTo(dib, painter, {x, at.line}, 0, dib.height);
+        return;
+      }
     }
   }
-  MoveTo(dib, painter, at, 0, dib.height);
+}
+
+template <uint32_t bits>
+void PaintRle(const Dib& dib, const Painter& painter) {
+  const bool clipped = painter.left > painter.offsetX || painter.firstRow >= painter.bottom ||
+                       painter.firstRow - (dib.height - 1) < painter.top;
+  clipped ? PaintRle<bits, true>(dib, painter) : PaintRle<bits, false>(dib, painter);
 }
 
 }  // namespace
@@ -261,7 +410,8 @@ bool ReadDib(const uint8_t* bytes, uint32_t size, Dib* dib) {
   return true;
 }
 
-bool PaintDib(const Dib& dib, const Frame& frame, const Placement& to, uint32_t rop) {
+bool PaintDib(const Dib& dib, const Frame& frame, const Placement& to, uint32_t rop,
+              uint32_t widestBlock) {
   const uint32_t truth = rop >> 16 & 15;
   if ((rop >> 20 & 15) != truth) return false;
 
@@ -277,18 +427,20 @@ bool PaintDib(const Dib& dib, const Frame& frame, const Placement& to, uint32_t 
 
   // What is visible lies within the frame, and the bitmap no further off than its own size.
   Painter painter;
+  painter.brush = ChooseBrush(widestBlock);
   painter.frame = frame;
   painter.offsetX = static_cast<int32_t>(offsetX);
-  painter.offsetY = static_cast<int32_t>(offsetY);
+  painter.firstRow = static_cast<int32_t>(offsetY) + (dib.topDown ? 0 : dib.height - 1);
   painter.left = static_cast<int32_t>(left);
   painter.top = static_cast<int32_t>(top);
   painter.right = static_cast<int32_t>(right);
   painter.bottom = static_cast<int32_t>(bottom);
-  painter.truth = truth;
-  painter.strokes[kMissing] = StrokeOf(truth, 0);
+  painter.operation = OperationOf(truth);
+  painter.strokes[kMissing] = painter.operation.zeros;
   const uint32_t selectable = dib.bitsPerPixel == 24 ? 0 : 1u << dib.bitsPerPixel;
   for (uint32_t i = 0; i < selectable; ++i)
-    painter.strokes[i] = StrokeOf(truth, i < dib.paletteCount ? Color(dib.palette + 4 * i) : 0);
+    painter.strokes[i] =
+        StrokeOf(painter.operation, i < dib.paletteCount ? Color(dib.palette + 4 * i) : 0);
 
   switch (dib.compression) {
     case DibRle8:

@@ -1,3 +1,5 @@
+#include <algorithm>
+
 #include "doctest/doctest.h"
 
 #include "platform/linux/dib.h"
@@ -58,6 +60,9 @@ std::string Text(const std::vector<uint32_t>& pixels, size_t width) {
   }
   return text;
 }
+
+// Of a run, combined at once; what the processor lacks is done with the next smaller one.
+constexpr uint32_t kBlocks[] = {1, 4, 8};
 
 struct PictureCase {
   const char* why;
@@ -122,10 +127,12 @@ TEST_CASE("a bitmap's bytes become pixels, whatever they are") {
     Dib dib;
     REQUIRE(stm::ReadDib(reinterpret_cast<const uint8_t*>(guarded.data()),
                          static_cast<uint32_t>(bytes.size()), &dib));
-    std::vector<uint32_t> pixels(static_cast<size_t>(dib.width * dib.height), 0xA5A5A5A5);
-    CHECK(stm::PaintDib(dib, {pixels.data(), dib.width, dib.height},
-                        {0, 0, dib.width, dib.height, 0, 0}, SRCCOPY));
-    CHECK(Text(pixels, static_cast<size_t>(dib.width)) == row.expected);
+    for (uint32_t block : kBlocks) {
+      std::vector<uint32_t> pixels(static_cast<size_t>(dib.width * dib.height), 0xA5A5A5A5);
+      CHECK(stm::PaintDib(dib, {pixels.data(), dib.width, dib.height},
+                          {0, 0, dib.width, dib.height, 0, 0}, SRCCOPY, block));
+      CHECK(Text(pixels, static_cast<size_t>(dib.width)) == row.expected);
+    }
   }
 }
 
@@ -237,5 +244,88 @@ TEST_CASE("raster operations combine source and destination bit by bit") {
     uint32_t pixel = destination;
     CHECK_FALSE(stm::PaintDib(dib, {&pixel, 1, 1}, {0, 0, 1, 1, 0, 0}, 0x00F00021));
     CHECK(pixel == destination);
+  }
+}
+
+TEST_CASE("runs of every length are combined alike in blocks of every width") {
+  for (int32_t length = 1; length <= 80; ++length) {
+    CAPTURE(length);
+    std::string bits = "\0\1"s;
+    bits.insert(0, 1, '\1');
+    bits.insert(0, 1, static_cast<char>(length));
+    const std::string bytes = Packed({length, 1, 8, DibRle8, 2}, bits);
+    Dib dib;
+    REQUIRE(stm::ReadDib(reinterpret_cast<const uint8_t*>(bytes.data()),
+                         static_cast<uint32_t>(bytes.size()), &dib));
+    const uint32_t source = ColorOf('b');
+    for (uint32_t block : kBlocks) {
+      // Every pixel has a colour of its own, so that none is taken for its neighbour.
+      std::vector<uint32_t> before(static_cast<size_t>(length + 2));
+      for (size_t i = 0; i < before.size(); ++i)
+        before[i] = 0x00030201 * static_cast<uint32_t>(i);
+      for (uint32_t rop : {SRCCOPY, SRCPAINT, SRCAND, MERGEPAINT, 0x00660046u}) {
+        std::vector<uint32_t> expected = before;
+        for (size_t i = 1; i + 1 < expected.size(); ++i) {
+          const uint32_t d = before[i];
+          expected[i] = rop == SRCCOPY      ? source
+                        : rop == SRCPAINT   ? source | d
+                        : rop == SRCAND     ? source & d
+                        : rop == MERGEPAINT ? (~source & 0x00FFFFFF) | d
+                                            : source ^ d;
+        }
+        std::vector<uint32_t> pixels = before;
+        CHECK(stm::PaintDib(dib, {pixels.data(), length + 2, 1}, {1, 0, length, 1, 0, 0}, rop,
+                            block));
+        CHECK(pixels == expected);
+      }
+    }
+  }
+}
+
+TEST_CASE("lines that change nothing are passed over, and no others") {
+  // 'c' is above the palette: black, which leaves every pixel as it is.
+  struct Case {
+    const char* why;
+    Header header;
+    std::string bits;
+    const char* expected;
+  };
+  const Case cases[] = {
+      {"alike above and below a part",
+       {3, 8, 8, DibRle8, 2},
+       "\3\2\0\0\3\2\0\0\3\2\0\0\2\2\1\1\0\0\3\2\0\0\3\2\0\0\3\2\0\0\3\2\0\1"s,
+       ".../.../.../.../..b/.../.../.../"},
+      {"more of them than lines",
+       {2, 2, 8, DibRle8, 2},
+       "\2\2\0\0\2\2\0\0\2\2\0\0\2\2\0\0\2\2\0\0"s,
+       "../../"},
+      {"alike, but of a part",
+       {2, 4, 8, DibRle8, 2},
+       "\2\1\0\0\2\1\0\0\2\1\0\0\2\1\0\0\2\2\0\0"s,
+       "bb/bb/bb/bb/"},
+      {"alike up to their last run",
+       {4, 3, 8, DibRle8, 2},
+       "\2\2\2\2\0\0\2\2\2\2\0\0\2\2\2\1\0\0"s,
+       "..bb/..../..../"},
+      {"alike as bytes, but begun by a jump",
+       {2, 4, 8, DibRle8, 2},
+       "\0\2\1\0\1\2\0\0\1\2\0\0\1\2\0\0\1\2\1\1\0\0"s,
+       ".b/../../../"},
+  };
+  for (const Case& row : cases) {
+    CAPTURE(row.why);
+    const std::string bytes = Packed(row.header, row.bits);
+    test::GuardedBytes guarded(bytes);
+    Dib dib;
+    REQUIRE(stm::ReadDib(reinterpret_cast<const uint8_t*>(guarded.data()),
+                         static_cast<uint32_t>(bytes.size()), &dib));
+    std::vector<uint32_t> pixels(static_cast<size_t>(dib.width * dib.height), 0);
+    CHECK(stm::PaintDib(dib, {pixels.data(), dib.width, dib.height},
+                        {0, 0, dib.width, dib.height, 0, 0}, SRCPAINT));
+    CHECK(Text(pixels, static_cast<size_t>(dib.width)) == row.expected);
+    // Hidden lines count as well: only the two topmost rows are in the frame.
+    std::vector<uint32_t> top(static_cast<size_t>(dib.width * 2), 0);
+    CHECK(stm::PaintDib(dib, {top.data(), dib.width, 2}, {0, 0, dib.width, 2, 0, 0}, SRCPAINT));
+    CHECK(std::equal(top.begin(), top.end(), pixels.begin()));
   }
 }
