@@ -232,6 +232,16 @@ Verdict Judge(const Snapshot& snapshot) {
   return verdict;
 }
 
+// A mild condition's headline is "ready" for an offline printer as well; that of code 0 tells.
+std::string OfflineText(const Snapshot& snapshot) {
+  StatusSample sample(0, false);
+  sample.list.online = 0;
+  sample.flat.online = 0;
+  const Language& language = *snapshot.source.language;
+  return snapshot.source.kind == RecordKind::Flat ? AskTexts(sample.flat, language, 0).brief
+                                                  : AskTexts(sample.list, language).brief;
+}
+
 }  // namespace
 
 std::string BuildQuery() {
@@ -297,6 +307,9 @@ std::string ConditionText(const Condition& condition) {
 }
 
 std::string StatusText(const Snapshot& snapshot) {
+  const bool mild =
+      !snapshot.conditions.empty() && snapshot.conditions[0].reason->severity != Severity::Error;
+  if (mild && !snapshot.online) return OfflineText(snapshot);
   if (!snapshot.texts.brief.empty()) return snapshot.texts.brief;
   const Condition* dominant = Find(snapshot, snapshot.dominant.empty() ? 0 : snapshot.dominant[0]);
   if (dominant) return ConditionText(*dominant);

@@ -56,7 +56,8 @@ TEST_CASE("each poll tells what changed since the last good answer, and nothing 
       {"a tray is taken out", Told("65", "1\r6\r2\r2", "1\r100\r2\r50"),
        "status changed, trays changed, trays came, conditions went 32"},
       {"another order of the same codes", Told("65,65", "2\r2\r1\r6", "1\r100\r2\r50"), ""},
-      {"switched offline", Told("65", "1\r6\r2\r2", "1\r100\r2\r50", false), "state changed"},
+      {"switched offline", Told("65", "1\r6\r2\r2", "1\r100\r2\r50", false),
+       "status changed, state changed"},
   };
   stmon::Watch watch;
   auto now = std::chrono::steady_clock::now();
