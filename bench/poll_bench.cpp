@@ -116,6 +116,6 @@ void bench::BenchPoll() {
         Ask(readyRecord, readyShown);
       },
       PollFloor(readyRecord, ready, readyShown));
-  Release(record);
-  Release(readyRecord);
+  ReleasePrnInfoEx(&record);
+  ReleasePrnInfoEx(&readyRecord);
 }

@@ -18,7 +18,6 @@ constexpr std::string_view kReply =
 constexpr std::string_view kDeviceId =
     "MFG:ORLEX;CMD:NDL,NPS,N98,N16,NGL,GL2,NTF,NWC;MDL:ZENTA C210;CLS:PRINTER;DES:ZENTA C210;";
 
-using bench::Release;
 using Floor = bench::RecordFloor;
 
 uint32_t ReadDeviceId(PrnInfoEx& record) {
@@ -37,12 +36,12 @@ void bench::BenchRecords() {
   Note("(a reply of %zu bytes, %zu blocks)\n", kReply.size(), replyFloor.sizes.size());
   Row(
       "reply, repeated into one record", [&] { Parse(record, kReply); }, replyFloor, 1.0);
-  Release(record);
+  ReleasePrnInfoEx(&record);
   Row(
       "reply, into a fresh record and release",
       [&] {
         Parse(record, kReply);
-        Release(record);
+        ReleasePrnInfoEx(&record);
       },
       replyFloor, 1.5);
   Row(
@@ -53,7 +52,7 @@ void bench::BenchRecords() {
   Note("(a Device ID of %zu bytes, %zu blocks)\n", kDeviceId.size(), idFloor.sizes.size());
   Row(
       "Device ID, repeated into one record", [&] { ReadDeviceId(record); }, idFloor, 2.0);
-  Release(record);
+  ReleasePrnInfoEx(&record);
   Row(
       "Device ID, into the flat record",
       [&] {

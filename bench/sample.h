@@ -8,7 +8,7 @@
 #include <vector>
 
 #include "bench.h"
-#include "stmdata/stmdata.h"
+#include "stmdata/release.h"
 
 namespace bench {
 
@@ -34,17 +34,14 @@ inline uint32_t Parse(PrnInfo& record, std::string_view reply) {
 }
 
 template <class Node, class Visit>
-void VisitNodes(Node*& head, Visit visit) {
-  for (Node* node = head; node;) {
-    Node* next = node->next;
+void VisitNodes(Node* node, Visit visit) {
+  for (; node; node = node->next)
     visit(node, sizeof *node);
-    node = next;
-  }
 }
 
 // Calls `visit` with the address and size of every block of the record.
 template <class Visit>
-void VisitBlocks(PrnInfoEx& record, Visit visit) {
+void VisitBlocks(const PrnInfoEx& record, Visit visit) {
   for (char* text : {record.modelName, record.manufacturer, record.description})
     if (text) visit(text, std::strlen(text) + 1);
   for (char* text : {record.versionText1, record.versionText2, record.versionText3})
@@ -57,15 +54,10 @@ void VisitBlocks(PrnInfoEx& record, Visit visit) {
   VisitNodes(record.optionList, visit);
 }
 
-inline void Release(PrnInfoEx& record) {
-  VisitBlocks(record, [](void* block, size_t) { GlobalFree(block); });
-  record = {};
-}
-
 // As many zero-filled allocations and releases as the record holds blocks, and one copy of the
 // input.
 struct RecordFloor {
-  RecordFloor(PrnInfoEx& record, std::string_view bytes) : input(bytes) {
+  RecordFloor(const PrnInfoEx& record, std::string_view bytes) : input(bytes) {
     VisitBlocks(record, [this](void*, size_t size) { sizes.push_back(uint32_t(size)); });
     blocks.resize(sizes.size());
     copy.resize(bytes.size());

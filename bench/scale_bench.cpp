@@ -83,7 +83,7 @@ void Compare(const PrnInfo& record, const PrnInfo& previous) {
 }
 
 void ReleaseBlocks(PrnInfoEx& record) {
-  Release(record);
+  ReleasePrnInfoEx(&record);
 }
 void ReleaseBlocks(PrnInfo&) {}
 
@@ -266,8 +266,8 @@ double AskLong(uint32_t count, uint32_t group, Question question) {
     PatSetPMPrnInfoToPrnInfo(each, &lists.manager, group);
   record.online = same.online = 1;
   const double ns = MedianNanoseconds([&] { question(lists, record, same); });
-  Release(record);
-  Release(same);
+  ReleasePrnInfoEx(&record);
+  ReleasePrnInfoEx(&same);
   return ns;
 }
 

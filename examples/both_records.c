@@ -1,7 +1,7 @@
 /* The same replies in both records, and the same question asked of each. */
 #include <stdio.h>
 
-#include "release.h"
+#include "stmdata/release.h"
 #include "stmdata/stmdata.h"
 
 struct Case {
@@ -48,7 +48,7 @@ int main(void) {
     printf("%s\n", cases[i].about);
     if (PatGetDetailString(&flat, text, sizeof text)) Print("flat:", text);
     if (PatGetDetailString_Ex(&list, text, sizeof text)) Print("list:", text);
-    Release(&list);
+    ReleasePrnInfoEx(&list);
   }
   return 0;
 }

@@ -3,7 +3,7 @@
 #include <stdio.h>
 #include <string.h>
 
-#include "release.h"
+#include "stmdata/release.h"
 #include "stmdata/stmdata.h"
 
 /* What the printer answers: no paper, black toner nearly empty, online, tray 1 and bin 1 in use; A4
@@ -101,6 +101,6 @@ int main(int count, char** arguments) {
     TellTrays(&record);
     told = Show(&record, count > 1 ? arguments[1] : NULL);
   }
-  Release(&record);
+  ReleasePrnInfoEx(&record);
   return told ? 0 : 1;
 }

@@ -1,7 +1,7 @@
 /* The print manager's road: its own record of names into both printer records, and on to texts. */
 #include <stdio.h>
 
-#include "release.h"
+#include "stmdata/release.h"
 #include "stmdata/stmdata.h"
 
 #define COUNT_OF(array) (uint32_t)(sizeof(array) / sizeof *(array))
@@ -58,7 +58,7 @@ int main(void) {
   record.trayList->paperLevel = 25;
   PatCmpPrnInfoEX(&earlier, &record, groups, &equal);
   printf("After a few pages the records %s.\n", equal ? "still agree" : "differ");
-  Release(&record);
-  Release(&earlier);
+  ReleasePrnInfoEx(&record);
+  ReleasePrnInfoEx(&earlier);
   return 0;
 }

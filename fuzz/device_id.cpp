@@ -21,6 +21,6 @@ extern "C" int LLVMFuzzerTestOneInput(const uint8_t* data, size_t size) {
   std::free(terminated);
   fuzz::CheckRecord(record);
   fuzz::Require(record.emulationCount == languages);
-  fuzz::Release(record);
+  ReleasePrnInfoEx(&record);
   return 0;
 }

@@ -1,4 +1,4 @@
-// What must be true of a record after any input, and the release of a record. A leak is found by
+// What must be true of a record after any input. A leak is found by
 // the sanitizer, which watches every run.
 #pragma once
 
@@ -7,7 +7,7 @@
 #include <cstring>
 #include <initializer_list>
 
-#include "stmdata/stmdata.h"
+#include "stmdata/release.h"
 
 namespace fuzz {
 
@@ -53,27 +53,6 @@ inline void CheckRecord(const PrnInfoEx& record) {
   for (const char* text : {record.modelName, record.manufacturer, record.description})
     Require(!text || std::strlen(text) <= 251);
   Require(record.online <= 1 && record.hasError <= 1);
-}
-
-template <class Node>
-void ReleaseNodes(Node* head) {
-  while (head) {
-    Node* next = head->next;
-    GlobalFree(head);
-    head = next;
-  }
-}
-
-inline void Release(PrnInfoEx& record) {
-  for (char* text : {record.modelName, record.manufacturer, record.description, record.versionText1,
-                     record.versionText2, record.versionText3})
-    GlobalFree(text);
-  ReleaseNodes(record.statusList);
-  ReleaseNodes(record.emulationList);
-  ReleaseNodes(record.fontList);
-  ReleaseNodes(record.trayList);
-  ReleaseNodes(record.binList);
-  ReleaseNodes(record.optionList);
 }
 
 // A reply is walked when it begins with an escape and a letter; the byte 0xFF counts as none.

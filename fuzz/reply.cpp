@@ -8,6 +8,6 @@ extern "C" int LLVMFuzzerTestOneInput(const uint8_t* data, size_t size) {
   fuzz::Require(result == fuzz::IsWalked(data, size));
   fuzz::CheckRecord(record);
   fuzz::Require(record.recordTag == 0 && record.structSize == 0);
-  fuzz::Release(record);
+  ReleasePrnInfoEx(&record);
   return 0;
 }

@@ -16,6 +16,6 @@ extern "C" int LLVMFuzzerTestOneInput(const uint8_t* data, size_t size) {
     fuzz::CheckRecord(record);
     data = mark ? mark + 1 : end;
   }
-  fuzz::Release(record);
+  ReleasePrnInfoEx(&record);
   return 0;
 }

@@ -7,7 +7,7 @@
 #include <memory>
 #include <vector>
 
-#include "stmdata/stmdata.h"
+#include "stmdata/release.h"
 
 namespace fuzz {
 
@@ -116,31 +116,12 @@ uint32_t Length(const Node* head) {
   return length;
 }
 
-template <class Node>
-void ReleaseList(Node*& head) {
-  while (head) {
-    Node* next = head->next;
-    GlobalFree(head);
-    head = next;
-  }
-}
-
 // A list-based record with real chains, released at the end.
 struct ListRecord : PrnInfoEx {
   ListRecord() : PrnInfoEx{} {}
   ListRecord(const ListRecord&) = delete;
   ListRecord& operator=(const ListRecord&) = delete;
-  ~ListRecord() {
-    for (char* text :
-         {modelName, manufacturer, description, versionText1, versionText2, versionText3})
-      GlobalFree(text);
-    ReleaseList(statusList);
-    ReleaseList(emulationList);
-    ReleaseList(fontList);
-    ReleaseList(trayList);
-    ReleaseList(binList);
-    ReleaseList(optionList);
-  }
+  ~ListRecord() { ReleasePrnInfoEx(this); }
 
   void Draw(Source& source) {
     DrawList(source, statusList, statusCount);

@@ -2,7 +2,7 @@
 // at the end.
 #pragma once
 
-#include "stmdata/stmdata.h"
+#include "stmdata/release.h"
 
 namespace stmon {
 
@@ -13,27 +13,7 @@ struct Record : PrnInfoEx {
   }
   Record(const Record&) = delete;
   Record& operator=(const Record&) = delete;
-  ~Record() {
-    for (char* text :
-         {modelName, manufacturer, description, versionText1, versionText2, versionText3})
-      GlobalFree(text);
-    FreeNodes(statusList);
-    FreeNodes(emulationList);
-    FreeNodes(fontList);
-    FreeNodes(trayList);
-    FreeNodes(binList);
-    FreeNodes(optionList);
-  }
-
- private:
-  template <class Node>
-  static void FreeNodes(Node* head) {
-    while (head) {
-      Node* next = head->next;
-      GlobalFree(head);
-      head = next;
-    }
-  }
+  ~Record() { ReleasePrnInfoEx(this); }
 };
 
 }  // namespace stmon

@@ -81,7 +81,12 @@ const Row kRows[] = {
      GroupTrays},
     {"paper level", [](Record& r) { r.trayList->next->paperLevel = 9; }, GroupTrays},
     {"tray chain too short", [](Record& r) { DropLast(r.trayList); }, GroupTrays},
-    {"no trays, but counted", [](Record& r) { test::FreeNodes(r.trayList); }, GroupTrays},
+    {"no trays, but counted",
+     [](Record& r) {
+       while (r.trayList)
+         DropLast(r.trayList);
+     },
+     GroupTrays},
     {"bin in use", [](Record& r) { r.currentBin = 9; }, GroupBins},
     {"bin in use not known", [](Record& r) { r.currentBin = STM_ABSENT; }, 0},
     {"bin id", [](Record& r) { r.binList->next->binId = 9; }, GroupBins},

@@ -8,7 +8,7 @@
 #include <string_view>
 #include <vector>
 
-#include "stmdata/stmdata.h"
+#include "stmdata/release.h"
 
 #ifndef _WIN32
 #include <sys/mman.h>
@@ -66,31 +66,12 @@ class GuardedBytes {
   char* base_;
 };
 
-template <class Node>
-void FreeNodes(Node*& head) {
-  while (head) {
-    Node* next = head->next;
-    GlobalFree(head);
-    head = next;
-  }
-}
-
 // A list-based record as a caller owns it: zero-filled at first, released at the end.
 struct Record : PrnInfoEx {
   Record() : PrnInfoEx{} {}
   Record(const Record&) = delete;
   Record& operator=(const Record&) = delete;
-  ~Record() {
-    for (char* text :
-         {modelName, manufacturer, description, versionText1, versionText2, versionText3})
-      GlobalFree(text);
-    FreeNodes(statusList);
-    FreeNodes(emulationList);
-    FreeNodes(fontList);
-    FreeNodes(trayList);
-    FreeNodes(binList);
-    FreeNodes(optionList);
-  }
+  ~Record() { ReleasePrnInfoEx(this); }
 };
 
 inline uint32_t Parse(Record& record, std::string_view reply) {
