@@ -55,13 +55,13 @@ STEPS = (
 
 
 class Build:
-    """A copy of the tree and what is built from it. Each build has a copy of its own, so that the
+    """A copy of a tree and what is built from it. Each build has a copy of its own, so that the
     sanitized one compiles again only what it is asked about."""
 
-    def __init__(self, name, flags):
+    def __init__(self, name, flags, original):
         self.tree, self.out, self.name = WORK / name / "tree", WORK / name / "out", name
         self.processor_seconds = 0
-        self.sync()
+        self.sync(original)
         if not (self.out / "build.ninja").exists():
             say(f"building {name}, a minute or two")
         self.run_checked("cmake", "-S", self.tree, "-B", self.out, "-G", "Ninja", "-DCMAKE_BUILD_TYPE=",
@@ -80,14 +80,14 @@ class Build:
         if done.returncode:
             sys.exit(f"{done.stdout[-3000:]}\nthe {self.name} build failed")
 
-    def sync(self):
+    def sync(self, original):
         """Only files that differ are written, so that the build stays incremental."""
-        wanted = tree_files()
+        wanted = files_of(original)
         for path in self.tree.rglob("*"):
             if path.is_file() and path.relative_to(self.tree) not in wanted:
                 path.unlink()
         for path in wanted:
-            source, copy = (ROOT / path).read_bytes(), self.tree / path
+            source, copy = (original / path).read_bytes(), self.tree / path
             if not copy.exists() or copy.read_bytes() != source:
                 copy.parent.mkdir(parents=True, exist_ok=True)
                 copy.write_bytes(source)
@@ -137,12 +137,12 @@ class Build:
             copy.write_text(original)
 
 
-def tree_files():
+def files_of(tree):
     skipped = {"build", "dist", ".git", "__pycache__"}
     files = set()
-    for folder, folders, names in os.walk(ROOT):
+    for folder, folders, names in os.walk(tree):
         folders[:] = [name for name in folders if name not in skipped]
-        here = pathlib.Path(folder).relative_to(ROOT)
+        here = pathlib.Path(folder).relative_to(tree)
         files.update(here / name for name in names if name not in skipped)
     return files
 
@@ -340,12 +340,12 @@ def draw(sources, count, seed):
 class Memory:
     """The verdicts on this state of the tree, kept as they come."""
 
-    def __init__(self):
+    def __init__(self, tree):
         digest = hashlib.sha256()
-        for path in sorted(tree_files()):
+        for path in sorted(files_of(tree)):
             matters = path.parts[0] in ("src", "include", "tests", "cmake", "tools", "CMakeLists.txt")
             if matters and ROOT / path != ACCEPTED:
-                digest.update(str(path).encode() + (ROOT / path).read_bytes())
+                digest.update(str(path).encode() + (tree / path).read_bytes())
         path = WORK / "verdicts.txt"
         head, *lines = path.read_text().splitlines() if path.exists() else [""]
         same = head == digest.hexdigest()
@@ -454,11 +454,12 @@ def read_arguments():
 def main():
     arguments = read_arguments()
     WORK.mkdir(parents=True, exist_ok=True)
-    plain, sanitized = Build("plain", PLAIN), Build("sanitized", SANITIZED)
-    sources = [Source(path, (ROOT / path).read_text()) for path in plain.sources()
+    plain = Build("plain", PLAIN, ROOT)
+    sanitized = Build("sanitized", SANITIZED, plain.tree)
+    sources = [Source(path, (plain.tree / path).read_text()) for path in plain.sources()
                if not arguments.paths or any(path.startswith(start) for start in arguments.paths)]
     texts = {source.path: source.text for source in sources}
-    memory, accepted = Memory(), Accepted()
+    memory, accepted = Memory(plain.tree), Accepted()
     every = [change for source in sources for change in source.changes]
     if arguments.count == "all":
         changes = every

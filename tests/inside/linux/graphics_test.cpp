@@ -25,6 +25,20 @@ Handle Foreign(uint32_t value) {
   return reinterpret_cast<Handle>(value);
 }
 
+std::vector<HDC> TakeEveryHandle() {
+  std::vector<HDC> contexts;
+  while (const HDC context = CreateCompatibleDC(nullptr)) {
+    contexts.push_back(context);
+    REQUIRE(contexts.size() <= 4096);
+  }
+  return contexts;
+}
+
+void GiveBack(const std::vector<HDC>& contexts) {
+  for (const HDC context : contexts)
+    CHECK(DeleteDC(context));
+}
+
 }  // namespace
 
 TEST_CASE("a dialog's picture controls are found by their identifiers") {
@@ -140,17 +154,35 @@ TEST_CASE("handles that are none are refused") {
 }
 
 TEST_CASE("a full table of handles refuses new ones and recovers") {
-  std::vector<HDC> contexts;
-  while (const HDC context = CreateCompatibleDC(nullptr)) {
-    contexts.push_back(context);
-    REQUIRE(contexts.size() <= 4096);
-  }
+  const std::vector<HDC> contexts = TakeEveryHandle();
   CHECK(contexts.size() > 4000);
   CHECK_FALSE(HostCreateDialog());
   CHECK_FALSE(stm::LoadModuleBitmap("BMP_P_BASE"));
-  for (const HDC context : contexts)
-    CHECK(DeleteDC(context));
+  GiveBack(contexts);
   const HBITMAP bitmap = stm::LoadModuleBitmap("BMP_P_BASE");
   CHECK(bitmap);
   CHECK(DeleteObject(bitmap));
+}
+
+TEST_CASE("a drawing gives every handle back, however few there are") {
+  Dialog dialog(4, 1);
+  const PrnInfo info{};
+  PrnBitmap list;
+  REQUIRE(PatGetPrnBitmap(&info, &list) == 1);
+  for (size_t left = 0; left < 5; ++left) {
+    CAPTURE(left);
+    std::vector<HDC> taken = TakeEveryHandle();
+    for (size_t i = 0; i < left; ++i) {
+      DeleteDC(taken.back());
+      taken.pop_back();
+    }
+    dialog.pixels()[0] = kPicture;
+    CHECK(PatDrawPrinterBitmap(dialog.handle, 0, kPicture, 1, 0, 0) == 1);
+    // A window's context, a bitmap and a memory context are what a layer takes.
+    CHECK((dialog.pixels()[0] != kPicture) == (left >= 3));
+    const std::vector<HDC> still = TakeEveryHandle();
+    CHECK(still.size() == left);
+    GiveBack(still);
+    GiveBack(taken);
+  }
 }
