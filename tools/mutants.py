@@ -22,7 +22,6 @@ import argparse
 import collections
 import dataclasses
 import hashlib
-import itertools
 import json
 import os
 import pathlib
@@ -331,7 +330,7 @@ def draw(sources, count, seed):
     taken = set(drawn)
     left = [change for place in places for change in place if change not in taken]
     drawn += chance.sample(left, min(count - len(drawn), len(left)))
-    return sorted(drawn, key=lambda change: (change.path, change.begin, change.text))
+    return drawn
 
 
 # ---- Memory of runs -----------------------------------------------------------------------------
@@ -363,8 +362,7 @@ class Memory:
 
 class Accepted:
     """The changes that are rightly unnoticed, in blocks of: the path; '- ' and the line; '+ ' and the
-    line with the change; the reason, indented. '...' in the line stands for anything, and in the
-    changed one for the same again."""
+    line with the change; the reason, indented. '...' stands for anything."""
 
     def __init__(self):
         self.patterns, self.used = [], set()
@@ -378,12 +376,8 @@ class Accepted:
             elif line.startswith("+ ") or line == "+":
                 if not lines[i + 1:] or not lines[i + 1].startswith("  "):
                     sys.exit(f"{ACCEPTED.relative_to(ROOT)}:{i + 1}: a reason has to follow, indented")
-                self.patterns.append((path, self.pattern(before, line[2:]), f"{path}: {line[2:]}"))
-
-    def pattern(self, before, after):
-        groups = itertools.count(1)
-        again = re.sub(r"(?:\\\.){3}", lambda _: f"\\{next(groups)}", re.escape(after))
-        return re.compile(re.escape(before).replace(r"\.\.\.", "(.*)") + "\n" + again)
+                pattern = re.escape(f"{before}\n{line[2:]}").replace(r"\.\.\.", ".*")
+                self.patterns.append((path, re.compile(pattern), f"{path}: {line[2:]}"))
 
     def __contains__(self, change):
         for path, pattern, name in self.patterns:
@@ -416,7 +410,7 @@ def figure(counts):
 
 def report(verdicts, accepted):
     table = collections.defaultdict(collections.Counter)
-    for change, verdict in verdicts.items():
+    for change, verdict in sorted(verdicts.items(), key=lambda item: (item[0].path, item[0].begin)):
         if verdict == "survived" and change in accepted:
             verdict = "accepted"
         elif verdict == "survived":
@@ -451,6 +445,30 @@ def read_arguments():
     return arguments
 
 
+def in_working_order(changes, seed):
+    """File by file, which spares building, but the files at random: so that a run that is stopped
+    has seen something of everything."""
+    paths = sorted({change.path for change in changes})
+    random.Random(seed).shuffle(paths)
+    return sorted(changes, key=lambda change: (paths.index(change.path), change.begin))
+
+
+def judge_all(changes, texts, builds, memory, verdicts):
+    survived = 0
+    for number, change in enumerate(changes, 1):
+        progress(f"{number}/{len(changes)}, {survived} survived, {change.path}:{change.line}")
+        verdict = memory.verdicts.get(change.place())
+        if not verdict:
+            for build in builds:
+                verdict = build.judge(texts[change.path], change)
+                if verdict != "survived":
+                    break
+            memory.keep(change, verdict)
+        survived += verdict == "survived"
+        verdicts[change] = verdict
+    progress("")
+
+
 def main():
     arguments = read_arguments()
     WORK.mkdir(parents=True, exist_ok=True)
@@ -473,18 +491,11 @@ def main():
         say(f"{ACCEPTED.relative_to(ROOT)}: no such change any more: {name}")
     say(f"{len(changes)} of {len(every)} changes in {len(sources)} files")
 
-    verdicts, survived = {}, 0
-    for number, change in enumerate(changes, 1):
-        progress(f"{number}/{len(changes)}, {survived} survived, {change.path}:{change.line}")
-        verdict = memory.verdicts.get(change.place())
-        if not verdict:
-            verdict = plain.judge(texts[change.path], change)
-            if verdict == "survived":
-                verdict = sanitized.judge(texts[change.path], change)
-            memory.keep(change, verdict)
-        survived += verdict == "survived"
-        verdicts[change] = verdict
-    progress("")
+    verdicts = {}
+    try:
+        judge_all(in_working_order(changes, arguments.seed), texts, (plain, sanitized), memory, verdicts)
+    except KeyboardInterrupt:
+        say(f"\nstopped after {len(verdicts)} of them")
     sys.exit(not report(verdicts, accepted))
 
 
