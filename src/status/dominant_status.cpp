@@ -53,7 +53,10 @@ uint32_t ChooseAll(StatusView view, uint32_t* codes) {
     const uint32_t row = FindPriorityRow(code);
     const uint32_t priority = kPriorityTable[row].priority;
     if (row == kPriorityRows || priority > ties.priority) continue;
-    if (priority < ties.priority) ties = {{}, 0, priority};
+    if (priority < ties.priority) {
+      ties.priority = priority;
+      ties.count = 0;
+    }
     if (!AddRow(&ties, row)) return 0;
   }
   for (uint32_t tie = 0; tie < ties.count; ++tie)
