@@ -333,6 +333,8 @@ void BenchLongLists() {
 // No rows with floors: nothing for the instruction counts.
 void bench::BenchScale() {
   if (task.kind != Task::Measure) return;
+  char japanese[] = "JP";
+  PatSetLocale(japanese);
   BenchManyPrinters();
   BenchLongLists();
 }
