@@ -20,10 +20,17 @@ constexpr std::string_view kReply =
     "\x1BS\r4,5,"
     "25\r0\r1\r1\n\x1BT\r1\r5\r2\r6\n\x1BL\r1\r0\r2\r1\n\x1BV\rA\r1\rB\r2\rC\r3\n\x1BM\r7\n"
     "\x1B\x46\rGOTHIC\rKAISHO\n\x1B\x44\rF:3\rO:\x03\rD:1\n\x1B\x41\r1\n\x1B\x43\r1\n";
-// More status nodes than a flat record's temporary one has room for, and lists told twice.
-constexpr std::string_view kLongReply =
+// More nodes than a flat record's temporary one has room for, and lists told twice.
+const std::string kLongReply =
     "\x1BS\r4,5,25,26,28,36,37\r0\r1\r1\n\x1B\x46\rGOTHIC\rKAISHO\n\x1B\x46\rKAISHO\n"
-    "\x1B\x44\rF:3\rO:\x03\n\x1B\x44\rD:1\n\x1BS\r4,5,25\r0\r1\r1\n\x1B\x41\r1\n";
+    "\x1B\x44\rF:3\rO:\x03\n\x1B\x44\rD:1\n\x1BS\r4,5,25\r0\r1\r1\n\x1B\x41\r1\n"
+    "\x1BL" +
+    [] {
+      std::string bins;
+      for (int bin = 0; bin < 60; ++bin)
+        bins += "\r1\r0";
+      return bins + '\n';
+    }();
 constexpr std::string_view kFirstDeviceId = "MFG:A;CMD:NDL;MDL:B;DES:C;";
 constexpr std::string_view kDeviceId = "MFG:ORLEX;CMD:NDL,NPS;MDL:ZENTA C210;DES:ZENTA C210;";
 

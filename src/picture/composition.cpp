@@ -36,24 +36,27 @@ constexpr uint32_t kStoredLists = 8;
 StoredList storedLists[kStoredLists];
 std::atomic<uint32_t> latestTicket;
 
+// Result: false while another thread writes there.
+bool BeginWriting(StoredList& list) {
+  uint32_t version = list.version.load(std::memory_order_relaxed) & ~1u;
+  return list.version.compare_exchange_strong(version, version + 1, std::memory_order_acq_rel);
+}
+
 void RememberPartList(const uint8_t* codes) {
   uint32_t latest = latestTicket.load(std::memory_order_acquire);
-  for (uint32_t ticket = latest + 1;; ++ticket) {
-    StoredList& list = storedLists[ticket % kStoredLists];
-    uint32_t version = list.version.load(std::memory_order_relaxed) & ~1u;
-    if (!list.version.compare_exchange_strong(version, version + 1, std::memory_order_acq_rel))
-      continue;
-    for (std::atomic<uint32_t>& word : list.words) {
-      uint32_t four;
-      std::memcpy(&four, codes, 4);
-      codes += 4;
-      SetShared(word, four, std::memory_order_release);
-    }
-    SetShared(list.version, version + 2, std::memory_order_release);
-    // Where another composition got ahead meanwhile, that one is the latest.
-    latestTicket.compare_exchange_strong(latest, ticket, std::memory_order_acq_rel);
-    return;
+  uint32_t ticket = latest + 1;
+  while (!BeginWriting(storedLists[ticket % kStoredLists]))
+    ++ticket;
+  StoredList& list = storedLists[ticket % kStoredLists];
+  for (std::atomic<uint32_t>& word : list.words) {
+    uint32_t four;
+    std::memcpy(&four, codes, 4);
+    codes += 4;
+    SetShared(word, four, std::memory_order_release);
   }
+  list.version.fetch_add(1, std::memory_order_release);
+  // Where another composition got ahead meanwhile, that one is the latest.
+  latestTicket.compare_exchange_strong(latest, ticket, std::memory_order_acq_rel);
 }
 
 // Result: false when the list was written anew meanwhile.

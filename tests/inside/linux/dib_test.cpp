@@ -178,10 +178,10 @@ TEST_CASE("headers that describe no picture are refused") {
 
 TEST_CASE("a blit is clipped to the frame, the bitmap and its rectangle") {
   // Run, pair and single pixels: every way of painting meets every edge.
-  const std::string bytes = Packed({4, 3, 4, DibRle4, 16}, "\4\x11\0\0\4\x23\0\0\0\4\x45\x67\0\1"s);
-  Dib dib;
-  REQUIRE(stm::ReadDib(reinterpret_cast<const uint8_t*>(bytes.data()),
-                       static_cast<uint32_t>(bytes.size()), &dib));
+  const std::string packed =
+      Packed({4, 3, 4, DibRle4, 16}, "\4\x11\0\0\4\x23\0\0\0\4\x45\x67\0\1"s);
+  const std::string plain =
+      Packed({4, 3, 4, DibPlain, 16}, "\x11\x11\0\0\x23\x23\0\0\x45\x67\0\0"s);
   struct Case {
     const char* why;
     Placement placement;
@@ -190,6 +190,8 @@ TEST_CASE("a blit is clipped to the frame, the bitmap and its rectangle") {
   const Case cases[] = {
       {"in full", {1, 1, 4, 3, 0, 0}, "....../.efgh./.cdcd./.bbbb./"},
       {"out at the left and top", {-2, -1, 4, 3, 0, 0}, "cd..../bb..../....../....../"},
+      {"out at the left", {-1, 1, 4, 3, 0, 0}, "....../fgh.../dcd.../bbb.../"},
+      {"out at the top", {0, -1, 4, 3, 0, 0}, "cdcd../bbbb../....../....../"},
       {"out at the right and bottom", {4, 2, 4, 3, 0, 0}, "....../....../....ef/....cd/"},
       {"from inside the bitmap, one pixel", {3, 0, 1, 1, 2, 1}, "...c../....../....../....../"},
       {"wider than the bitmap", {0, 0, 100, 100, 3, 2}, "b...../....../....../....../"},
@@ -206,9 +208,14 @@ TEST_CASE("a blit is clipped to the frame, the bitmap and its rectangle") {
   };
   for (const Case& row : cases) {
     CAPTURE(row.why);
-    std::vector<uint32_t> pixels(24, 0);
-    CHECK(stm::PaintDib(dib, {pixels.data(), 6, 4}, row.placement, SRCCOPY));
-    CHECK(Text(pixels, 6) == row.expected);
+    for (const std::string& bytes : {packed, plain}) {
+      Dib dib;
+      REQUIRE(stm::ReadDib(reinterpret_cast<const uint8_t*>(bytes.data()),
+                           static_cast<uint32_t>(bytes.size()), &dib));
+      std::vector<uint32_t> pixels(24, 0);
+      CHECK(stm::PaintDib(dib, {pixels.data(), 6, 4}, row.placement, SRCCOPY));
+      CHECK(Text(pixels, 6) == row.expected);
+    }
   }
 }
 
