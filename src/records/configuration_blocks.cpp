@@ -15,16 +15,15 @@ void SkipLabel(Input& fields) {
   ReadField(fields, kVersionLimit, kCarriageReturn);
 }
 
-// An existing block has room for every version text and is written over. Result: whether more
-// fields follow.
-bool ReadVersion(Input& fields, char*& text, Room* room) {
-  const Field value = ReadField(fields, kVersionLimit, kCarriageReturn);
+// Reads a text that ends with `delimiter` or with the block. An existing block has room for every
+// version text and is written over.
+void ReadVersion(Input& fields, char delimiter, char*& text, Room* room) {
+  const Field value = ReadField(fields, kVersionLimit, delimiter, kLineFeed);
   if (!text) text = static_cast<char*>(TakeBlock(room, kVersionBytes));
   if (text) {
     std::memcpy(text, value.text.data(), value.text.size());
     text[value.text.size()] = '\0';
   }
-  return value.delimiter == kCarriageReturn || Left(fields) > 0;
 }
 
 }  // namespace
@@ -34,11 +33,12 @@ bool ReadVersion(Input& fields, char*& text, Room* room) {
 void ParseVersionBlock(const Input& block, Filling to) {
   Input fields = FieldsOf(block);
   SkipLabel(fields);
-  ReadVersion(fields, to.record->versionText1, to.room);
+  ReadVersion(fields, kCarriageReturn, to.record->versionText1, to.room);
   SkipLabel(fields);
-  if (!ReadVersion(fields, to.record->versionText2, to.room)) return;
+  ReadVersion(fields, kCarriageReturn, to.record->versionText2, to.room);
+  if (Peek(fields) == '\0') return;
   SkipLabel(fields);
-  ReadVersion(fields, to.record->versionText3, to.room);
+  ReadVersion(fields, kLineFeed, to.record->versionText3, to.room);
 }
 
 //   1B 'M' CR  6 4 LF
@@ -62,7 +62,7 @@ void ParseFontBlock(const Input& block, Filling to) {
   FontNode** link = &to.record->fontList;
   Input fields = FieldsOf(block);
   while (Peek(fields) != '\0') {
-    const Field name = ReadField(fields, 128, kCarriageReturn);
+    const Field name = ReadField(fields, 128, kCarriageReturn, kLineFeed);
     const int32_t code = LookupNameCode(name.text, kFontNameTable);
     if (code == 0) continue;
     FontNode* font = NextItem(link, to.room);

@@ -13,7 +13,7 @@ namespace stm {
 // gives it this much at least, since a reply writes over what is there.
 constexpr uint32_t kVersionBytes = 7;
 
-// Each parses a block, its end left out.
+// Each parses the text of a block.
 void ParseVersionBlock(const Input& block, Filling to);
 void ParseNumberBlock(const Input& block, Filling to);
 void ParseEmulationBlock(const Input& block, Filling to);

@@ -29,11 +29,13 @@ bool EndsField(const Value& value) {
   return Left(value) > 0 && value.end[-1] == kFieldEnd;
 }
 
-// Replaces a string of the record; null without memory.
+// Replaces a string of the record, by null without memory. The new one is filled before the old one
+// goes, so that a caller may hand in the record's own string.
 void ReplaceText(char*& text, const Value& value, Room* room) {
+  auto* block = static_cast<char*>(TakeBlock(room, Left(value) + 1));
+  if (block) std::memcpy(block, value.position, Left(value));
   if (text) ReleaseBlock(room, text);
-  text = static_cast<char*>(TakeBlock(room, Left(value) + 1));
-  if (text) std::memcpy(text, value.position, Left(value));
+  text = block;
 }
 
 // A printer whose name cannot be kept counts as unknown.

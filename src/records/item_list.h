@@ -49,21 +49,24 @@ Node* FreeItemList(Node* head, Room* room = nullptr) {
   return nullptr;
 }
 
-// The next node of a list that is written anew from `link` on: an old node, emptied, or else a new
-// one; `link` then leads behind it. Null without memory. What is left at the link when all is
-// written is the caller's to release.
+// The next node of a list that is written anew from `link` on: an old node of the right size,
+// emptied, or else a new one before it; `link` then leads behind it. Null without memory. What is
+// left at the link when all is written is the caller's to release.
 template <class Node>
 Node* NextItem(Node**& link, Room* room) {
-  Node* node = *link;
-  if (node) {
-    Node* next = node->next;
-    *node = {};
-    node->next = next;
-    node->nodeSize = sizeof(Node);
+  Node* old = *link;
+  if (old && old->nodeSize == sizeof(Node)) {
+    Node* next = old->next;
+    *old = {};
+    old->next = next;
+    old->nodeSize = sizeof(Node);
   } else {
-    node = *link = NewItem<Node>(room);
-    if (!node) return nullptr;
+    Node* added = NewItem<Node>(room);
+    if (!added) return nullptr;
+    added->next = old;
+    *link = added;
   }
+  Node* node = *link;
   link = &node->next;
   return node;
 }

@@ -120,6 +120,7 @@ void ParseOptionBlock(const Input& block, Filling to) {
   to.record->optionCount = 0;
   OptionCursor cursor{nullptr, &to.record->optionList};
   Input entries = FieldsOf(block);
+  if (Left(entries) > 0 && entries.end[-1] == kLineFeed) --entries.end;
   while (Left(entries) > 0) {
     const OptionRow* row = FindOptionRow(Peek(entries));
     Skip(entries, 2);

@@ -9,7 +9,7 @@
 
 namespace stm {
 
-// Each parses a block, its end left out.
+// Each parses the text of a block.
 void ParsePresenceBlock(const Input& block, Filling to, uint16_t optionCode);
 void ParseOptionBlock(const Input& block, Filling to);
 

@@ -50,7 +50,8 @@ uint32_t CountEntries(const Input& block) {
 //              id
 //
 // Values go to the node with the entry's id. The k-th id that no node has yet takes the k-th node
-// from the head; when the nodes are used up, such an entry is dropped.
+// from the head; when the nodes are used up, such an entry is dropped. A CR right before the LF
+// opens an entry without id and value.
 template <const auto& rule>
 void ParseEntries(const Input& block, Filling to) {
   RebuildItemList(to.record->*rule.list, to.record->*rule.count, CountEntries(block), to.room);
@@ -58,8 +59,8 @@ void ParseEntries(const Input& block, Filling to) {
 
   Input fields = FieldsOf(block);
   while (Peek(fields) != '\0') {
-    const Field id = ReadField(fields, 8, kCarriageReturn);
-    const Field value = ReadField(fields, 8, kCarriageReturn);
+    const Field id = ReadField(fields, 8, kCarriageReturn, kLineFeed);
+    const Field value = ReadField(fields, 8, kCarriageReturn, kLineFeed);
     const auto key = static_cast<uint16_t>(LookupNameCode(id.text, rule.ids));
     auto* node = FindItem(to.record->*rule.list, key);
     if (!node && cursor) {

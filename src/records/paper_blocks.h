@@ -8,7 +8,7 @@
 
 namespace stm {
 
-// Each parses a block, its end left out.
+// Each parses the text of a block.
 void ParseTrayBlock(const Input& block, Filling to);
 void ParseLevelBlock(const Input& block, Filling to);
 void ParseBinBlock(const Input& block, Filling to);

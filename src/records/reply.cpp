@@ -1,5 +1,6 @@
 #include "records/reply.h"
 
+#include <algorithm>
 #include <array>
 #include <cstring>
 
@@ -16,33 +17,34 @@ namespace {
 // How much of the reply a block is. A block that the reply cuts off says nothing reliable: it takes
 // nothing.
 struct BlockExtent {
-  uint32_t text;   // bytes to parse, without the end
+  uint32_t text;   // bytes to parse
   uint32_t taken;  // bytes to step over
 };
 
-// A block ends with its LF and takes 255 bytes at most.
+// A block ends with its LF, which belongs to its text, and takes 255 bytes at most.
 BlockExtent LineExtent(const Input& rest) {
   constexpr uint32_t kMost = 255;
-  const void* found = std::memchr(rest.position, kLineFeed, Left(rest));
-  if (!found) return {0, 0};
-  const auto length = static_cast<uint32_t>(static_cast<const char*>(found) - rest.position);
-  return length < kMost ? BlockExtent{length, length + 1} : BlockExtent{kMost, kMost};
+  const uint32_t most = std::min(Left(rest), kMost);
+  const auto* end = static_cast<const char*>(std::memchr(rest.position, kLineFeed, most));
+  if (!end) return most == kMost ? BlockExtent{kMost, kMost} : BlockExtent{0, 0};
+  const auto length = static_cast<uint32_t>(end + 1 - rest.position);
+  return {length, length};
 }
 
 constexpr char kEndLetter = ' ';
 constexpr uint32_t kEndLength = 2;
 
-// A status block ends with its LF or with the reply's end marker and takes 256 bytes at most.
+// A status block ends with its LF or with the reply's end marker, which do not belong to its text,
+// and takes 256 bytes at most.
 BlockExtent StatusExtent(const Input& rest) {
   constexpr uint32_t kMost = 256;
-  for (Input at = rest; Left(at) > 0; ++at.position) {
-    const bool lineEnd = *at.position == kLineFeed;
-    if (!lineEnd && BlockLetter(at) != kEndLetter) continue;
-    const auto length = static_cast<uint32_t>(at.position - rest.position);
-    if (length >= kMost) return {kMost, kMost};
-    return {length, length + (lineEnd ? 1 : kEndLength)};
+  const uint32_t most = std::min(Left(rest), kMost);
+  for (uint32_t length = 0; length < most; ++length) {
+    const Input at{rest.position + length, rest.end};
+    if (*at.position == kLineFeed) return {length, length + 1};
+    if (BlockLetter(at) == kEndLetter) return {length, length + kEndLength};
   }
-  return {0, 0};
+  return most == kMost ? BlockExtent{kMost, kMost} : BlockExtent{0, 0};
 }
 
 struct BlockRow {

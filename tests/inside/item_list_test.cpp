@@ -104,7 +104,10 @@ TEST_CASE("a list that is written anew takes its old nodes, emptied, then new on
   CHECK(old[1]->optionCode == 0);
   CHECK(old[1]->optionValue == 0);
   CHECK(old[1]->nodeSize == sizeof(OptionNode));
+  old[1]->next = reinterpret_cast<OptionNode*>(stm::NewItem<EmulationNode>());
   OptionNode* added = stm::NextItem(link, nullptr);
+  CHECK(added->nodeSize == sizeof(OptionNode));
+  CHECK(added->next->nodeSize == sizeof(EmulationNode));  // of another size: left for release
   CHECK(old[1]->next == added);
   CHECK(link == &added->next);
   stm::FreeItemList(head);
