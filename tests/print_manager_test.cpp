@@ -210,6 +210,11 @@ const GroupCase kGroupCases[] = {
      " version2='2.0' version3='a long version text' language=2 languages[14 2 1 14]", 1,
      "versionText2='2.0' versionText3='a long version ' emulationCode=1 emulationList[14 2 1 14] "
      "emulationCount=4"},
+    {"no language in use",
+     [](PrintManager& m) {
+       m.AddEmulations({{"NVDL", nullptr, nullptr}});
+     },
+     GroupEmulation, " languages[1]", 1, "emulationCode=0 emulationList[1] emulationCount=1"},
     {"language in use past the list",
      [](PrintManager& m) {
        m.AddEmulations({{"NVDL", nullptr, nullptr}}, 1);
