@@ -26,7 +26,7 @@ constexpr const char* kFooter =
     "Examples:\n"
     "  stmon 192.0.2.10                      ask a printer\n"
     "  stmon --scenario no-paper --json      ask the simulated one, as JSON\n"
-    "  stmon --simulate 9100 --scenario list name what can be simulated";
+    "  stmon --scenario list                 name what can be simulated";
 
 int Fail(const std::string& message) {
   Complain("stmon: " + message + "\n");
