@@ -1,3 +1,4 @@
+#include "checksum.h"
 #include "doctest/doctest.h"
 #include "support.h"
 
@@ -73,6 +74,9 @@ TEST_CASE("the pixels of bitmaps and icons can be read") {
   REQUIRE(HostReadIcon(icon, pixels.data(), 1024, nullptr, nullptr));
   CHECK(pixels[0] == 0);  // a corner outside the drawing
   CHECK(pixels[16 * 32 + 16] >= 0xFF000000);
+  test::Checksum sum;  // of the icon as it was drawn
+  sum.Add(pixels.data(), 1024 * sizeof pixels[0]);
+  CHECK(sum.value == 0x21412B8E);
   CHECK(pixels[1024] == 0xA5A5A5A5);
 }
 #endif

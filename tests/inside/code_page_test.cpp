@@ -76,6 +76,7 @@ TEST_CASE("a conversion that does not fit fails; the length needed can be asked 
         "A"
         "\x88\x9F");
   CHECK(WideCharToMultiByte(932, 0, units, -1, nullptr, 0, nullptr, nullptr) == 6);
+  CHECK(WideCharToMultiByte(932, 0, units + 3, -1, nullptr, 0, nullptr, nullptr) == 1);
 
   test::GuardedBytes four(std::string(4, 'x'));
   CHECK(WideCharToMultiByte(932, 0, units, 3, four.data(), 4, nullptr, nullptr) == 0);

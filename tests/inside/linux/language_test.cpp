@@ -3,6 +3,7 @@
 #include <cstdlib>
 #include <string>
 
+#include "checksum.h"
 #include "doctest/doctest.h"
 #include "resources/language.h"
 #include "resources/strings.h"
@@ -21,6 +22,12 @@ TEST_CASE("a locale's name tells the language") {
     CAPTURE(row.locale);
     CHECK(stm::LanguageOfLocale(row.locale) == row.language);
   }
+  test::Checksum sum;  // of all that two letters can name
+  for (char first = 'a'; first <= 'z'; ++first) {
+    for (char second = 'a'; second <= 'z'; ++second)
+      sum.Add(stm::LanguageOfLocale(std::string{first, second}.c_str()));
+  }
+  CHECK(sum.value == 0xE7A736BA);
 }
 
 TEST_CASE("the first variable that is set names the environment's locale") {
