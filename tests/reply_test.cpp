@@ -185,6 +185,16 @@ const ReplyCase kReplies[] = {
      {"\x1B"
       "D\rM\n"},
      "options[3:0]"},
+    {"options without a field",
+     {"\x1B"
+      "D\rH:1\n\x1B"
+      "D\n"},
+     ""},
+    {"options without an end in 255 bytes: the last one belongs to a value",
+     {"\x1B"
+      "D\r" +
+      std::string(248, 'x') + "\rD:1\n"},
+     "options[1:49]"},
     {"no options",
      {"\x1B"
       "A\r1\n",
