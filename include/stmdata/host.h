@@ -121,8 +121,9 @@ STM_HOST_API BOOL STM_CALL HostDestroyDialog(HWND dialog);
 
 /* ---- Language --------------------------------------------------------------------------------
    A language id is (sublanguage << 10) | primary language. The thread's language is that of the
-   environment (LC_ALL, LC_MESSAGES, LANG, the first one set) until the thread sets another. The
-   library's texts that follow "the thread's language" follow this one, and fall back to English. */
+   environment (LC_ALL, LC_MESSAGES, LANG, the first one set), as it was when the library was
+   loaded, until the thread sets another. The library's texts that follow "the thread's language"
+   follow this one, and fall back to English. */
 
 /* Sets the calling thread's language; 0 returns to the environment's. Result: the language set. */
 STM_HOST_API LANGID STM_CALL SetThreadUILanguage(LANGID language);

@@ -3,6 +3,7 @@
 #include "picture/composition.h"
 
 #include <algorithm>
+#include <atomic>
 #include <cstring>
 
 #include "picture/composition_tables.h"

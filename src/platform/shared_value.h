@@ -5,8 +5,8 @@
 
 namespace stm {
 
-// Sets the value by an exchange. A plain store does the same, but is a move among others once
-// compiled, and tools that look for data races in running programs would report it.
+// Sets the value by an exchange, which stays recognisably atomic once it is compiled: a store would
+// be a move like any other.
 template <class Value>
 void SetShared(std::atomic<Value>& place, Value value,
                std::memory_order order = std::memory_order_relaxed) {

@@ -1,5 +1,6 @@
 #include "resources/language.h"
 
+#include <atomic>
 #include <cstdlib>
 #include <cstring>
 

@@ -1,5 +1,7 @@
 #include "resources/module.h"
 
+#include <atomic>
+
 #include "platform/shared_value.h"
 #include "stmdata/stmdata.h"
 

@@ -7,7 +7,7 @@
 
 namespace stm {
 
-// Above every code that a table has.
+// Above the code of every row but the closing ones. A row with another does not compile: raise it.
 inline constexpr uint32_t kIndexedCodes = 128;
 
 struct CodeIndex {

@@ -84,11 +84,11 @@ struct LevelIcon {
 
 inline constexpr LevelIcon kLevelIcons[] = {
     //  highest  icon
-    {0, "ICO_PAP_0"},            //
-    {24, "ICO_PAP_25"},          //
-    {50, "ICO_PAP_50"},          //
-    {75, "ICO_PAP_75"},          //
-    {100, "ICO_PAP_100"},        //
+    {0, "ICO_PAP_0"},            // empty
+    {24, "ICO_PAP_25"},          // 1 to 24
+    {50, "ICO_PAP_50"},          // 25 to 50
+    {75, "ICO_PAP_75"},          // 51 to 75
+    {100, "ICO_PAP_100"},        // 76 to 100
     {0xFFFFFFFF, "ICO_PAP_75"},  // closing row: no percentage
 };
 

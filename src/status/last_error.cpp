@@ -1,5 +1,7 @@
 #include "status/last_error.h"
 
+#include <atomic>
+
 #include "platform/shared_value.h"
 #include "stmdata/stmdata.h"
 

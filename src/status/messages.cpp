@@ -8,6 +8,7 @@
 #include "status/dominant_status.h"
 #include "status/last_error.h"
 #include "status/message_tables.h"
+#include "status/priority_table.h"
 #include "status/record_view.h"
 #include "status/status_table.h"
 #include "status/trays.h"
@@ -134,7 +135,7 @@ void AddToSuffix(Suffix& suffix, const char* name) {
   suffix.length += length;
 }
 
-bool IsTonerCode(uint32_t code) {
+constexpr bool IsTonerCode(uint32_t code) {
   return code >= kFirstTonerCode && code <= kLastTonerCode;
 }
 
@@ -142,8 +143,18 @@ uint32_t ColourOf(uint32_t tonerCode) {
   return (tonerCode - kFirstTonerCode) % kColours;
 }
 
-// A line of its own with a name for each code, in the order of the codes: those of one tie are all
-// toner codes or none of them is.
+// The codes of one tie are all toner codes or none of them is.
+static_assert([] {
+  for (const PriorityRow& row : kPriorityTable) {
+    for (const PriorityRow& other : kPriorityTable) {
+      if (row.priority == other.priority && IsTonerCode(row.code) != IsTonerCode(other.code))
+        return false;
+    }
+  }
+  return true;
+}());
+
+// A line of its own with a name for each code, in the order of the codes.
 Suffix FlatSuffix(const Statement& statement) {
   Suffix suffix{{}, 0, kFlatNamesCodePage};
   if (!IsTonerCode(statement.code)) return suffix;
@@ -272,6 +283,9 @@ uint32_t DetailOf(const PrnInfoEx& info, const Target& target) {
   }
   return TellDetail(statement, ListSuffix(statement, target.language), target);
 }
+
+// A printer that prints keeps its several codes: the marker is no mild code.
+static_assert(StatusSeveralMarker > kLastMildCode);
 
 uint32_t RecoveryCode(const PrnInfo& info) {
   const bool takesFirst = HasSeveralStatuses(info) && !info.noResponse;

@@ -370,7 +370,11 @@ template <uint32_t bits>
 void PaintRle(const Dib& dib, const Painter& painter) {
   const bool clipped = painter.left > painter.offsetX || painter.firstRow >= painter.bottom ||
                        painter.firstRow - (dib.height - 1) < painter.top;
-  clipped ? PaintRle<bits, true>(dib, painter) : PaintRle<bits, false>(dib, painter);
+  if (clipped) {
+    PaintRle<bits, true>(dib, painter);
+  } else {
+    PaintRle<bits, false>(dib, painter);
+  }
 }
 
 }  // namespace

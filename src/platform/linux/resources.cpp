@@ -95,7 +95,7 @@ const unsigned char* ReadEntry(const unsigned char* at, Entry* entry) {
   return Align(entry->data + dataSize);
 }
 
-// Ids come before strings; the look-up needs an order, not a particular one.
+// Null before strings. The look-up needs an order, not a particular one.
 int CompareTexts(const unsigned char* left, const unsigned char* right) {
   if (left == right) return 0;
   if (!left || !right) return left ? 1 : -1;
@@ -134,7 +134,7 @@ Index ReadImage() {
   return made;
 }
 
-// Made when the library is loaded, before there are threads.
+// Made when the library is loaded, before anyone can ask.
 const Index imageIndex = ReadImage();
 
 // A caller's type or name as a label; strings longer than any in the image match none.
