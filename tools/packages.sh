@@ -130,12 +130,13 @@ try_deb() {
     mount -t tmpfs tmpfs /mnt
     mkdir /mnt/upper /mnt/work /mnt/root
     mount -t overlay overlay -o "lowerdir=$root,upperdir=/mnt/upper,workdir=/mnt/work" /mnt/root
-    cp "$deb" /mnt/root/root/stmdata.deb
-    cp tools/try_deb.sh /mnt/root/root/
+    mkdir /mnt/root/try
+    cp "$deb" /mnt/root/try/stmdata.deb
+    cp tools/try_deb.sh /mnt/root/try/
     mount --bind /proc /mnt/root/proc
     mount --bind /dev /mnt/root/dev
-    exec chroot /mnt/root env -i PATH=/usr/sbin:/usr/bin:/sbin:/bin HOME=/root LANG=C.UTF-8 \
-      /root/try_deb.sh "$version"
+    exec chroot /mnt/root env -i PATH=/usr/sbin:/usr/bin:/sbin:/bin HOME=/try LANG=C.UTF-8 \
+      /try/try_deb.sh "$version"
   ' clean-debian "$root" "dist/$deb_name.deb" "$version"
 }
 

@@ -7,7 +7,7 @@ cd "$(dirname "$0")"
 version=$1
 
 # What dpkg and the loader write about every package is no trace of this one.
-everything() { find / -xdev \( -path /proc -o -path /dev -o -path /var/lib/dpkg -o -path /root \) -prune -o -printf '%p %l\n' | sort; }
+everything() { find / -xdev \( -path /proc -o -path /dev -o -path /var/lib/dpkg -o -path /try \) -prune -o -printf '%p %l\n' | sort; }
 
 everything >before
 dpkg -i stmdata.deb
