@@ -30,7 +30,9 @@ const std::string kLongReply =
       for (int bin = 0; bin < 60; ++bin)
         bins += "\r1\r0";
       return bins + '\n';
-    }();
+    }() +
+    "\x1BT\r1\r5\r2\r6\n\x1BV\rA\r1\rB\r2\n\x1B\x46\rGOTHIC\rMARUGOTHIC\rKAISHO\n"
+    "\x1B\x44\rT:\xFF\n";
 constexpr std::string_view kFirstDeviceId = "MFG:A;CMD:NDL;MDL:B;DES:C;";
 constexpr std::string_view kDeviceId = "MFG:ORLEX;CMD:NDL,NPS;MDL:ZENTA C210;DES:ZENTA C210;";
 

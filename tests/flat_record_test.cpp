@@ -39,10 +39,11 @@ const FlatCase kReplies[] = {
        to.online = 1, to.hasError = to.printing = 0, to.offline = 0;
        to.currentTray = to.currentBin = 0;
      }},
-    {"model information", "\x1BV\rA\r1.01\rB\r123456\n\x1BM\r64\n",
+    {"model information", "\x1BV\rA\r1.01\rB\r123456\rC\r3\n\x1BM\r64\n",
      [](PrnInfo& to) {
        to.modelInfoNumber = 64;
        std::strcpy(to.versionText1, "1.01"), std::strcpy(to.versionText2, "123456");
+       std::strcpy(to.versionText3, "3");
      }},
     {"language and fonts", "\x1B\x45\rNWC\n\x1B\x46\rKAISHO\rGOTHIC\n",
      [](PrnInfo& to) {

@@ -159,6 +159,10 @@ const TrayCase kTrays[] = {
     {"the bypass tray missing", {.statuses = {0}, .trays = {{1, 41}}}, kTrayText, kTrayText},
     {"the bypass tray run down", {.statuses = {0}, .trays = {{1, 8, 0}}}, kNoText, kTrayText},
     {"a level of 1", {.statuses = {0}, .trays = {{3, 8, 1}}}, kTrayText, kTrayText},
+    {"the second tray run down",
+     {.statuses = {0}, .trays = {{3, 8, 100}, {4, 8, 0}}},
+     kTrayText,
+     kTrayText},
     {"a level of 2", {.statuses = {0}, .trays = {{3, 8, 2}}}, kNoText, ""},
     {"not ready: the trays do not count",
      {.statuses = {36}, .trays = {{3, 41}}},
@@ -301,6 +305,7 @@ TEST_CASE("a text question without a record or room fails and writes nothing it 
   };
   char buffer[8];
   askAll(false, buffer, 8);
+  askAll(false, buffer, 1);
   askAll(false, buffer, 0);
   askAll(true, buffer, 0);
   askAll(true, buffer, -5);
