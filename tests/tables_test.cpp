@@ -143,11 +143,7 @@ void AddOptionBlocks(Checksum& sum) {
 }  // namespace
 
 TEST_CASE("every answer that a table gives is the one that was checked") {
-  const struct {
-    const char* table;
-    void (*add)(Checksum& sum);
-    uint32_t recorded;
-  } rows[] = {
+  const test::RecordedSum rows[] = {
       {"status rows", AddStatusRows, 0x3BC9628D},
       {"texts of the statuses, in English", AddStatusTexts, 0x45C3EE4C},
       {"icons of the statuses", AddIcons, 0x5CEC1AAB},
@@ -158,10 +154,5 @@ TEST_CASE("every answer that a table gives is the one that was checked") {
       {"classes of the statuses of a reply", AddStatusBlocks, 0x361C8CE0},
       {"options of a reply", AddOptionBlocks, 0x52CA7BA9},
   };
-  for (const auto& row : rows) {
-    INFO(std::string(row.table));
-    Checksum sum;
-    row.add(sum);
-    CHECK(sum.value == row.recorded);
-  }
+  test::CheckRecorded(rows);
 }

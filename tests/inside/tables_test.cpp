@@ -100,11 +100,7 @@ void AddPriorities(Checksum& sum) {
 }  // namespace
 
 TEST_CASE("every name has the code that was checked, and so has every pair of statuses") {
-  const struct {
-    const char* table;
-    void (*add)(Checksum& sum);
-    uint32_t recorded;
-  } rows[] = {
+  const test::RecordedSum rows[] = {
       {"printer languages of a reply", AddNames<stm::kEmulationCodeTable>, 0x8E1A6A55},
       {"fonts", AddNames<stm::kFontNameTable>, 0xCD064F2D},
       {"models", AddNames<stm::kModelNameTable>, 0x79A1AC82},
@@ -118,10 +114,5 @@ TEST_CASE("every name has the code that was checked, and so has every pair of st
       {"classes of the statuses", AddStatusClasses, 0xE195BFC7},
       {"priorities of the statuses", AddPriorities, 0x890CBAFA},
   };
-  for (const auto& row : rows) {
-    INFO(std::string(row.table));
-    Checksum sum;
-    row.add(sum);
-    CHECK(sum.value == row.recorded);
-  }
+  test::CheckRecorded(rows);
 }

@@ -64,6 +64,15 @@ std::string Text(const std::vector<uint32_t>& pixels, size_t width) {
 // Of a run, combined at once; what the processor lacks is done with the next smaller one.
 constexpr uint32_t kBlocks[] = {1, 4, 8};
 
+// The bitmap of bytes that hold one.
+template <class Bytes>
+Dib Whole(Bytes&& bytes) {
+  Dib dib{};
+  REQUIRE(stm::ReadDib(reinterpret_cast<const uint8_t*>(bytes.data()),
+                       static_cast<uint32_t>(bytes.size()), &dib));
+  return dib;
+}
+
 struct PictureCase {
   const char* why;
   Header header;
@@ -124,9 +133,7 @@ TEST_CASE("a bitmap's bytes become pixels, whatever they are") {
     CAPTURE(row.why);
     const std::string bytes = Packed(row.header, row.bits);
     test::GuardedBytes guarded(bytes);
-    Dib dib;
-    REQUIRE(stm::ReadDib(reinterpret_cast<const uint8_t*>(guarded.data()),
-                         static_cast<uint32_t>(bytes.size()), &dib));
+    const Dib dib = Whole(guarded);
     for (uint32_t block : kBlocks) {
       std::vector<uint32_t> pixels(static_cast<size_t>(dib.width * dib.height), 0xA5A5A5A5);
       CHECK(stm::PaintDib(dib, {pixels.data(), dib.width, dib.height},
@@ -209,9 +216,7 @@ TEST_CASE("a blit is clipped to the frame, the bitmap and its rectangle") {
   for (const Case& row : cases) {
     CAPTURE(row.why);
     for (const std::string& bytes : {packed, plain}) {
-      Dib dib;
-      REQUIRE(stm::ReadDib(reinterpret_cast<const uint8_t*>(bytes.data()),
-                           static_cast<uint32_t>(bytes.size()), &dib));
+      const Dib dib = Whole(bytes);
       std::vector<uint32_t> pixels(24, 0);
       CHECK(stm::PaintDib(dib, {pixels.data(), 6, 4}, row.placement, SRCCOPY));
       CHECK(Text(pixels, 6) == row.expected);
@@ -239,9 +244,7 @@ TEST_CASE("raster operations combine source and destination bit by bit") {
   };
   for (const std::string& bits : {"\1\x22\0\1"s, "\1\x23\0\1"s, "\0\3\x22\x20\0\1"s}) {
     const std::string bytes = Packed({1, 1, 4, DibRle4, 4}, bits);
-    Dib dib;
-    REQUIRE(stm::ReadDib(reinterpret_cast<const uint8_t*>(bytes.data()),
-                         static_cast<uint32_t>(bytes.size()), &dib));
+    const Dib dib = Whole(bytes);
     for (const Case& row : cases) {
       CAPTURE(row.rop);
       uint32_t pixel = destination;
@@ -261,9 +264,7 @@ TEST_CASE("runs of every length are combined alike in blocks of every width") {
     bits.insert(0, 1, '\1');
     bits.insert(0, 1, static_cast<char>(length));
     const std::string bytes = Packed({length, 1, 8, DibRle8, 2}, bits);
-    Dib dib;
-    REQUIRE(stm::ReadDib(reinterpret_cast<const uint8_t*>(bytes.data()),
-                         static_cast<uint32_t>(bytes.size()), &dib));
+    const Dib dib = Whole(bytes);
     const uint32_t source = ColorOf('b');
     for (uint32_t block : kBlocks) {
       // Every pixel has a colour of its own, so that none is taken for its neighbour.
@@ -291,13 +292,7 @@ TEST_CASE("runs of every length are combined alike in blocks of every width") {
 
 TEST_CASE("lines that change nothing are passed over, and no others") {
   // 'c' is above the palette: black, which leaves every pixel as it is.
-  struct Case {
-    const char* why;
-    Header header;
-    std::string bits;
-    const char* expected;
-  };
-  const Case cases[] = {
+  const PictureCase cases[] = {
       {"alike above and below a part",
        {3, 8, 8, DibRle8, 2},
        "\3\2\0\0\3\2\0\0\3\2\0\0\2\2\1\1\0\0\3\2\0\0\3\2\0\0\3\2\0\0\3\2\0\1"s,
@@ -319,13 +314,11 @@ TEST_CASE("lines that change nothing are passed over, and no others") {
        "\0\2\1\0\1\2\0\0\1\2\0\0\1\2\0\0\1\2\1\1\0\0"s,
        ".b/../../../"},
   };
-  for (const Case& row : cases) {
+  for (const PictureCase& row : cases) {
     CAPTURE(row.why);
     const std::string bytes = Packed(row.header, row.bits);
     test::GuardedBytes guarded(bytes);
-    Dib dib;
-    REQUIRE(stm::ReadDib(reinterpret_cast<const uint8_t*>(guarded.data()),
-                         static_cast<uint32_t>(bytes.size()), &dib));
+    const Dib dib = Whole(guarded);
     std::vector<uint32_t> pixels(static_cast<size_t>(dib.width * dib.height), 0);
     CHECK(stm::PaintDib(dib, {pixels.data(), dib.width, dib.height},
                         {0, 0, dib.width, dib.height, 0, 0}, SRCPAINT));
