@@ -128,14 +128,14 @@ try_deb() {
   quietly "the Debian package" unshare --mount --propagation private bash -euc '
     root=$1 deb=$2 version=$3
     mount -t tmpfs tmpfs /mnt
-    mkdir /mnt/upper /mnt/work /mnt/root
-    mount -t overlay overlay -o "lowerdir=$root,upperdir=/mnt/upper,workdir=/mnt/work" /mnt/root
-    mkdir /mnt/root/try
-    cp "$deb" /mnt/root/try/stmdata.deb
-    cp tools/try_deb.sh /mnt/root/try/
-    mount --bind /proc /mnt/root/proc
-    mount --bind /dev /mnt/root/dev
-    exec chroot /mnt/root env -i PATH=/usr/sbin:/usr/bin:/sbin:/bin HOME=/try LANG=C.UTF-8 \
+    mkdir /mnt/upper /mnt/work /mnt/debian
+    mount -t overlay overlay -o "lowerdir=$root,upperdir=/mnt/upper,workdir=/mnt/work" /mnt/debian
+    mkdir /mnt/debian/try
+    cp "$deb" /mnt/debian/try/stmdata.deb
+    cp tools/try_deb.sh /mnt/debian/try/
+    mount --bind /proc /mnt/debian/proc
+    mount --bind /dev /mnt/debian/dev
+    exec chroot /mnt/debian env -i PATH=/usr/sbin:/usr/bin:/sbin:/bin HOME=/try LANG=C.UTF-8 \
       /try/try_deb.sh "$version"
   ' clean-debian "$root" "dist/$deb_name.deb" "$version"
 }
