@@ -116,6 +116,10 @@ const ReplyCase kReplies[] = {
      {"\x1B"
       "F\rSERIF\rGOTHIC\n"},
      "fonts[13]"},
+    {"a zero byte ends a name",
+     {"\x1B"
+      "F\rKAISHO\0X\rGOTHIC\n\x1BT\r1\0\r5\0X\n"s},
+     "fonts[19 13] trays[3:7:0]"},
     {"no fonts",
      {"\x1B"
       "F\rGOTHIC\n",

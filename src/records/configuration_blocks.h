@@ -4,8 +4,8 @@
 
 #include <cstdint>
 
+#include "records/block.h"
 #include "records/room.h"
-#include "records/scanners.h"
 
 namespace stm {
 
@@ -14,9 +14,9 @@ namespace stm {
 constexpr uint32_t kVersionBytes = 7;
 
 // Each parses the text of a block.
-void ParseVersionBlock(const Input& block, Filling to);
-void ParseNumberBlock(const Input& block, Filling to);
-void ParseEmulationBlock(const Input& block, Filling to);
-void ParseFontBlock(const Input& block, Filling to);
+void ParseVersionBlock(const Block& block, Filling to);
+void ParseNumberBlock(const Block& block, Filling to);
+void ParseEmulationBlock(const Block& block, Filling to);
+void ParseFontBlock(const Block& block, Filling to);
 
 }  // namespace stm

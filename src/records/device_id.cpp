@@ -60,7 +60,7 @@ void ReadLanguages(Filling to, Value value) {
     if (code.delimiter == '\0') code.text.remove_suffix(1);
     EmulationNode* language = NextItem(link, to.room);
     if (!language) continue;
-    language->emulationCode = static_cast<uint16_t>(LookupNameCode(code.text, kEmulationCodeTable));
+    language->emulationCode = static_cast<uint16_t>(LookupNameCode<kEmulationCodeTable>(code.text));
     ++to.record->emulationCount;
   }
   *link = FreeItemList(*link, to.room);

@@ -1,77 +1,55 @@
 #include "records/option_blocks.h"
 
+#include <bit>
+
 #include "records/item_list.h"
+#include "records/letter_index.h"
 
 namespace stm {
 namespace {
 
-struct MaskRow {
-  uint32_t mask;
-  uint16_t code;
-};
-
-constexpr MaskRow kMasksO[] = {
-    {0x1, 5}, {0x2, 6}, {0x4, 9}, {0x8, 10}, {0x10, 14}, {0, 0},
-};
-constexpr MaskRow kMasksB[] = {
-    {0x1, 7},
-    {0x2, 15},
-    {0x4, 13},
-    {0, 0},
-};
-constexpr MaskRow kMasksF[] = {
-    {0x1, 11},  // stapler
-    {0x2, 12},  // puncher
-    {0, 0},
-};
-constexpr MaskRow kMasksT[] = {
-    {0x1, 16},   {0x2, 17},   {0x4, 104},  {0x8, 103}, {0x10, 101},
-    {0x20, 102}, {0x40, 105}, {0x80, 106}, {0, 0},
-};
-
-enum class OptionKind : uint8_t { Code, CodeWithValue, CodePerMask };
+enum class OptionKind : uint8_t { None, Code, CodeWithValue, CodePerBit };
 
 struct OptionRow {
   char letter;
   OptionKind kind;
-  uint16_t code;
-  const MaskRow* masks;  // closed by a row of mask 0
+  uint32_t bits;      // the bits of the value that stand for a code each
+  uint16_t codes[8];  // the code, or those of the bits, the lowest one's first
 };
 
 constexpr OptionRow kOptionLetters[] = {
-    {'D', OptionKind::CodeWithValue, OptionDuplex, nullptr},  // duplex unit
-    {'H', OptionKind::Code, 3, nullptr},                      //
-    {'M', OptionKind::Code, 3, nullptr},                      //
-    {'A', OptionKind::Code, 4, nullptr},                      //
-    {'O', OptionKind::CodePerMask, 0, kMasksO},               //
-    {'B', OptionKind::CodePerMask, 0, kMasksB},               //
-    {'F', OptionKind::CodePerMask, 0, kMasksF},               // finisher
-    {'T', OptionKind::CodePerMask, 0, kMasksT},               //
+    // letter, kind, bits, codes
+    {'D', OptionKind::CodeWithValue, 0, {OptionDuplex}},     // duplex unit
+    {'H', OptionKind::Code, 0, {3}},                         //
+    {'M', OptionKind::Code, 0, {3}},                         //
+    {'A', OptionKind::Code, 0, {4}},                         //
+    {'O', OptionKind::CodePerBit, 0x1F, {5, 6, 9, 10, 14}},  //
+    {'B', OptionKind::CodePerBit, 0x07, {7, 15, 13}},        //
+    {'F', OptionKind::CodePerBit, 0x03, {11, 12}},           // finisher: stapler, puncher
+    {'T', OptionKind::CodePerBit, 0xFF, {16, 17, 104, 103, 101, 102, 105, 106}},  //
+    {'\0', OptionKind::None, 0, {}},  // closing row: no option
 };
 
-const OptionRow* FindOptionRow(char letter) {
+constexpr bool EveryBitHasItsCode() {
   for (const OptionRow& row : kOptionLetters) {
-    if (row.letter == letter) return &row;
+    if (row.bits > 0xFF) return false;
+    for (uint32_t bit = 0; bit < 8 && row.kind == OptionKind::CodePerBit; ++bit) {
+      if ((row.bits >> bit & 1) != (row.codes[bit] != 0)) return false;
+    }
   }
-  return nullptr;
+  return true;
 }
+static_assert(EveryBitHasItsCode());
 
 // A value has room for four bytes, the first one lowest; an entry's further bytes are ignored.
 uint32_t ReadValue(Input& entries) {
   uint32_t value = 0;
   for (uint32_t bit = 0; Left(entries) > 0; bit += 8) {
-    const auto byte = static_cast<uint8_t>(Peek(entries));
-    Skip(entries, 1);
+    const auto byte = static_cast<uint8_t>(*entries.position++);
     if (byte == kCarriageReturn) break;
     if (bit < 32) value |= uint32_t{byte} << bit;
   }
   return value;
-}
-
-OptionNode** TailOf(OptionNode** link) {
-  while (*link)
-    link = &(*link)->next;
-  return link;
 }
 
 // The list as it is written: the latest node, and the link behind it.
@@ -98,15 +76,19 @@ void AddOption(OptionCursor& cursor, Filling to, uint16_t code, uint16_t value) 
 //   1B 'A' CR  '1' LF     '0' means absent, anything else present
 //
 // Nodes of code 0 are not counted: a list of such nodes only is replaced.
-void ParsePresenceBlock(const Input& block, Filling to, uint16_t optionCode) {
-  if (Peek(FieldsOf(block)) == '0') return;
-  if (to.record->optionCount != 0 && FindItem(to.record->optionList, optionCode)) return;
+void ParsePresenceBlock(const Block& block, Filling to, uint16_t optionCode) {
+  if (Peek(BodyOf(block)) == '0') return;
+  OptionNode** link = &to.record->optionList;
+  if (to.record->optionCount != 0) {
+    for (; *link; link = &(*link)->next) {
+      if ((*link)->optionCode == optionCode) return;
+    }
+  }
   auto* added = NewItem<OptionNode>(to.room);
   if (!added) return;
   added->optionCode = optionCode;
-  if (to.record->optionCount == 0)
-    to.record->optionList = FreeItemList(to.record->optionList, to.room);
-  *TailOf(&to.record->optionList) = added;
+  FreeItemList(*link, to.room);  // at the head all there is, at the tail nothing
+  *link = added;
   ++to.record->optionCount;
 }
 
@@ -115,32 +97,24 @@ void ParsePresenceBlock(const Input& block, Filling to, uint16_t optionCode) {
 //              | separator, any byte
 //              letter
 //
-// Every known letter opens a node; it keeps code 0 when the value selects none of its masks.
-void ParseOptionBlock(const Input& block, Filling to) {
+// Every known letter opens a node; it keeps code 0 when the value has none of its bits.
+void ParseOptionBlock(const Block& block, Filling to) {
   to.record->optionCount = 0;
   OptionCursor cursor{nullptr, &to.record->optionList};
-  Input entries = FieldsOf(block);
+  Input entries = BodyOf(block);
   if (Left(entries) > 0 && entries.end[-1] == kLineFeed) --entries.end;
   while (Left(entries) > 0) {
-    const OptionRow* row = FindOptionRow(Peek(entries));
+    const OptionRow& row = RowOfLetter<kOptionLetters>(Peek(entries));
     Skip(entries, 2);
     const uint32_t value = ReadValue(entries);
-    if (!row) continue;
+    if (row.kind == OptionKind::None) continue;
     cursor.node = NextItem(cursor.link, to.room);
     if (!cursor.node) continue;
-    switch (row->kind) {
-      case OptionKind::Code:
-        AddOption(cursor, to, row->code, 0);
-        break;
-      case OptionKind::CodeWithValue:
-        AddOption(cursor, to, row->code, static_cast<uint16_t>(value));
-        break;
-      case OptionKind::CodePerMask:
-        for (const MaskRow* mask = row->masks; mask->mask != 0; ++mask) {
-          if (value & mask->mask) AddOption(cursor, to, mask->code, 0);
-        }
-        break;
-    }
+    if (row.kind == OptionKind::Code) AddOption(cursor, to, row.codes[0], 0);
+    if (row.kind == OptionKind::CodeWithValue)
+      AddOption(cursor, to, row.codes[0], static_cast<uint16_t>(value));
+    for (uint32_t bits = value & row.bits; bits != 0; bits &= bits - 1)
+      AddOption(cursor, to, row.codes[std::countr_zero(bits)], 0);
   }
   *cursor.link = FreeItemList(*cursor.link, to.room);
 }

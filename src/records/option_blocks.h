@@ -4,20 +4,20 @@
 
 #include <cstdint>
 
+#include "records/block.h"
 #include "records/room.h"
-#include "records/scanners.h"
 
 namespace stm {
 
 // Each parses the text of a block.
-void ParsePresenceBlock(const Input& block, Filling to, uint16_t optionCode);
-void ParseOptionBlock(const Input& block, Filling to);
+void ParsePresenceBlock(const Block& block, Filling to, uint16_t optionCode);
+void ParseOptionBlock(const Block& block, Filling to);
 
 // The A block tells of option 4, the C block of the duplex unit.
-inline void ParseOption4Block(const Input& block, Filling to) {
+inline void ParseOption4Block(const Block& block, Filling to) {
   ParsePresenceBlock(block, to, 4);
 }
-inline void ParseDuplexBlock(const Input& block, Filling to) {
+inline void ParseDuplexBlock(const Block& block, Filling to) {
   ParsePresenceBlock(block, to, OptionDuplex);
 }
 

@@ -1,7 +1,5 @@
 #include "records/paper_blocks.h"
 
-#include <algorithm>
-
 #include "records/item_list.h"
 #include "records/reply_tables.h"
 
@@ -9,7 +7,7 @@ namespace stm {
 namespace {
 
 uint16_t PaperCode(std::string_view value) {
-  return static_cast<uint16_t>(LookupNameCode(value, kPaperSizes));
+  return static_cast<uint16_t>(LookupNameCode<kPaperSizes>(value));
 }
 
 uint16_t Number(std::string_view value) {
@@ -21,29 +19,24 @@ template <class Node>
 struct EntryRule {
   Node* PrnInfoEx::*list;
   uint32_t PrnInfoEx::*count;
-  const NameCode* ids;
+  int32_t (*idOf)(std::string_view);
   uint16_t Node::*key;
   uint16_t Node::*field;
   uint16_t (*valueOf)(std::string_view);
 };
 
 constexpr EntryRule<TrayNode> kTrayRule = {
-    &PrnInfoEx::trayList, &PrnInfoEx::trayCount, kTrayLetters,
+    &PrnInfoEx::trayList, &PrnInfoEx::trayCount, LookupNameCode<kTrayLetters>,
     &TrayNode::trayId,    &TrayNode::paperCode,  PaperCode,
 };
 constexpr EntryRule<TrayNode> kLevelRule = {
-    &PrnInfoEx::trayList, &PrnInfoEx::trayCount, kTrayLetters,
+    &PrnInfoEx::trayList, &PrnInfoEx::trayCount, LookupNameCode<kTrayLetters>,
     &TrayNode::trayId,    &TrayNode::paperLevel, Number,
 };
 constexpr EntryRule<BinNode> kBinRule = {
-    &PrnInfoEx::binList, &PrnInfoEx::binCount, kBinNumbers,
+    &PrnInfoEx::binList, &PrnInfoEx::binCount, LookupNameCode<kBinNumbers>,
     &BinNode::binId,     &BinNode::binState,   Number,
 };
-
-// An id and a value, both followed by a CR or the block's end, make an entry.
-uint32_t CountEntries(const Input& block) {
-  return static_cast<uint32_t>(std::count(block.position, block.end, kCarriageReturn)) / 2;
-}
 
 //   1B 'T' CR  1 CR 5 CR  2 CR -1 LF
 //              |    value
@@ -51,38 +44,38 @@ uint32_t CountEntries(const Input& block) {
 //
 // Values go to the node with the entry's id. The k-th id that no node has yet takes the k-th node
 // from the head; when the nodes are used up, such an entry is dropped. A CR right before the LF
-// opens an entry without id and value.
+// opens an entry without id and value. There are half as many entries as CRs, since the head's
+// stands for the one that the last value lacks.
 template <const auto& rule>
-void ParseEntries(const Input& block, Filling to) {
-  RebuildItemList(to.record->*rule.list, to.record->*rule.count, CountEntries(block), to.room);
+void ParseEntries(const Block& block, Filling to) {
+  RebuildItemList(to.record->*rule.list, to.record->*rule.count, block.crCount / 2, to.room);
   auto* cursor = to.record->*rule.list;
 
-  Input fields = FieldsOf(block);
-  while (Peek(fields) != '\0') {
-    const Field id = ReadField(fields, 8, kCarriageReturn, kLineFeed);
-    const Field value = ReadField(fields, 8, kCarriageReturn, kLineFeed);
-    const auto key = static_cast<uint16_t>(LookupNameCode(id.text, rule.ids));
+  Fields fields = FieldsOf(block);
+  while (!AtEnd(fields)) {
+    const auto key = static_cast<uint16_t>(rule.idOf(NextField(fields, 8)));
+    const uint16_t value = rule.valueOf(NextField(fields, 8));
     auto* node = FindItem(to.record->*rule.list, key);
     if (!node && cursor) {
       node = cursor;
       cursor = cursor->next;
       node->*rule.key = key;
     }
-    if (node) node->*rule.field = rule.valueOf(value.text);
+    if (node) node->*rule.field = value;
   }
 }
 
 }  // namespace
 
-void ParseTrayBlock(const Input& block, Filling to) {
+void ParseTrayBlock(const Block& block, Filling to) {
   ParseEntries<kTrayRule>(block, to);
 }
 
-void ParseLevelBlock(const Input& block, Filling to) {
+void ParseLevelBlock(const Block& block, Filling to) {
   ParseEntries<kLevelRule>(block, to);
 }
 
-void ParseBinBlock(const Input& block, Filling to) {
+void ParseBinBlock(const Block& block, Filling to) {
   ParseEntries<kBinRule>(block, to);
 }
 

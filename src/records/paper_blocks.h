@@ -3,14 +3,14 @@
 
 #include <cstdint>
 
+#include "records/block.h"
 #include "records/room.h"
-#include "records/scanners.h"
 
 namespace stm {
 
 // Each parses the text of a block.
-void ParseTrayBlock(const Input& block, Filling to);
-void ParseLevelBlock(const Input& block, Filling to);
-void ParseBinBlock(const Input& block, Filling to);
+void ParseTrayBlock(const Block& block, Filling to);
+void ParseLevelBlock(const Block& block, Filling to);
+void ParseBinBlock(const Block& block, Filling to);
 
 }  // namespace stm

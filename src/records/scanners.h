@@ -82,11 +82,4 @@ inline int8_t BlockLetter(const Input& input) {
   return Left(input) > 1 ? static_cast<int8_t>(input.position[1]) : 0;
 }
 
-// What follows a block's ESC, letter and CR.
-inline Input FieldsOf(const Input& block) {
-  Input fields = block;
-  Skip(fields, 3);
-  return fields;
-}
-
 }  // namespace stm

@@ -108,8 +108,8 @@ uint32_t StatusClass(uint32_t code) {
 //              codes     |     |     output bin in use, may be missing
 //                        |     tray in use
 //                        online flag, 0 means online
-void ParseStatusBlock(const Input& block, Filling to) {
-  Input fields = FieldsOf(block);
+void ParseStatusBlock(const Block& block, Filling to) {
+  Input fields = BodyOf(block);
   const Field codes = ScanField(fields, kFieldLimit, kCarriageReturn);
   RebuildItemList(to.record->statusList, to.record->statusCount, CountCodes(codes), to.room);
   to.record->hasError = 0;
@@ -124,12 +124,12 @@ void ParseStatusBlock(const Input& block, Filling to) {
   Skip(fields, 2);
 
   const Field tray = ReadField(fields, kFieldLimit, kCarriageReturn, kEscape);
-  to.record->currentTray = static_cast<uint16_t>(LookupNameCode(tray.text, kTrayLetters));
+  to.record->currentTray = static_cast<uint16_t>(LookupNameCode<kTrayLetters>(tray.text));
   to.record->currentBin = 0;
   const bool trayCut = tray.delimiter == '\0' && Left(fields) > 0;
   if (tray.delimiter == kCarriageReturn || trayCut) {
     const Field bin = ReadField(fields, kFieldLimit, kEscape);
-    to.record->currentBin = static_cast<uint16_t>(LookupNameCode(bin.text, kBinNumbers));
+    to.record->currentBin = static_cast<uint16_t>(LookupNameCode<kBinNumbers>(bin.text));
   }
 }
 

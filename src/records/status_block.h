@@ -3,8 +3,8 @@
 
 #include <cstdint>
 
+#include "records/block.h"
 #include "records/room.h"
-#include "records/scanners.h"
 
 namespace stm {
 
@@ -14,6 +14,6 @@ enum : uint32_t { StatusClassReady = 0, StatusClassWarning = 1, StatusClassError
 uint32_t StatusClass(uint32_t code);
 
 // Parses the block, its end left out.
-void ParseStatusBlock(const Input& block, Filling to);
+void ParseStatusBlock(const Block& block, Filling to);
 
 }  // namespace stm

@@ -1,8 +1,10 @@
 #include "records/item_list.h"
 
 #include "doctest/doctest.h"
-#include "records/name_table.h"
+#include "records/emulation_codes.h"
+#include "records/font_names.h"
 #include "records/record.h"
+#include "records/reply_tables.h"
 #include "support.h"
 
 namespace {
@@ -130,8 +132,10 @@ TEST_CASE("blocks come from the room as long as it lasts, zero-filled, then from
 }
 
 TEST_CASE("a name that no row holds gets the closing row's code") {
-  constexpr stm::NameCode table[] = {{"A", 1}, {"AB", 2}, {"A", 3}, {nullptr, 255}};
-  constexpr stm::NameCode empty[] = {{nullptr, 9}};
+  static constexpr stm::NameCode table[] = {{"A", 1},        {"AB", 2},       {"A", 3},
+                                            {"GOTHIC-B", 4}, {"MICRIC-B", 5}, {"GOTHIC-BB-B", 6},
+                                            {nullptr, 255}};
+  static constexpr stm::NameCode empty[] = {{nullptr, 9}};
   struct {
     const char* name;
     const stm::NameCode* table;
@@ -142,6 +146,41 @@ TEST_CASE("a name that no row holds gets the closing row's code") {
   };
   for (const auto& row : rows)
     CHECK(stm::LookupNameCode(row.name, row.table) == row.code);
-  CHECK(stm::LookupNameCode(std::string_view("ABC", 2), table) == 2);
-  CHECK(stm::LookupNameCode(std::string_view("A\0B", 3), table) == 1);
+  const struct {
+    std::string_view piece;
+    int32_t code;
+  } pieces[] = {
+      {{"ABC", 2}, 2},    {{"A\0B", 3}, 1},     {"AA", 255},       {"", 255},
+      {"GOTHIC-B", 4},    {"MICRIC-B", 5},      {"XOTHIC-B", 255}, {{"MICRIC-B\0", 9}, 5},
+      {"GOTHIC-BB-B", 6}, {"GOTHICBBB-B", 255}, {"OTHIC-B", 255},  {{"\0A", 2}, 255},
+  };
+  for (const auto& row : pieces) {
+    CAPTURE(row.piece);
+    CHECK(stm::LookupNameCode<table>(row.piece) == row.code);
+    CHECK(stm::LookupNameCode<empty>(row.piece) == 9);
+  }
+}
+
+namespace {
+
+// Every name of the table, and names like it that the table may lack.
+template <const auto& kTable>
+void CheckIndex() {
+  for (const stm::NameCode& row : kTable) {
+    const std::string name = row.name.text ? row.name.text : "?";
+    for (const std::string& asked : {name, name + "0", "0" + name, name.substr(1)}) {
+      CAPTURE(asked);
+      CHECK(stm::LookupNameCode<kTable>(asked) == stm::LookupNameCode(asked.c_str(), kTable));
+    }
+  }
+}
+
+}  // namespace
+
+TEST_CASE("the index of a table leads to the row that a search finds") {
+  CheckIndex<stm::kTrayLetters>();
+  CheckIndex<stm::kBinNumbers>();
+  CheckIndex<stm::kPaperSizes>();
+  CheckIndex<stm::kEmulationCodeTable>();
+  CheckIndex<stm::kFontNameTable>();
 }

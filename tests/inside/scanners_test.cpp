@@ -1,4 +1,4 @@
-#include "records/scanners.h"
+#include "records/block.h"
 
 #include "doctest/doctest.h"
 #include "support.h"
@@ -81,4 +81,65 @@ TEST_CASE("a block letter needs an escape before it and a byte behind that") {
     test::GuardedBytes bytes(row.bytes);
     CHECK(stm::BlockLetter({bytes.data(), bytes.data() + bytes.size()}) == row.letter);
   }
+}
+
+TEST_CASE("a block is scanned up to its LF or its limit and read field by field") {
+  const std::string longName(260, 'n');
+  const struct {
+    const char* why;
+    std::string bytes;
+    uint32_t taken;
+    uint32_t crCount;
+    std::string fields;  // with limit 8, each followed by a bar
+    std::string rest;    // of the whole block with limit 8
+  } rows[] = {
+      {"up to the LF", "\x1BT\r1\r22\n\x1B", 8, 2, "1|22|", "1\r22"},
+      {"cut off before its LF", "\x1BT\r1\r22", 0, 0, "", ""},
+      {"without fields", "\x1BT\r\n", 4, 1, "|", ""},
+      {"without a CR in its head", "\x1BT\n", 3, 0, "", ""},
+      {"another byte in the CR's place", "\x1BTx1\r2\n", 7, 1, "1|2|", "1\r2"},
+      {"an empty last field", "\x1BT\r1\r\n", 6, 2, "1||", "1\r"},
+      {"six characters fit", "\x1BT\r123456\r7\n", 12, 2, "123456|7|", "123456"},
+      {"seven lose one and leave the CR", "\x1BT\r1234567\r8\n", 13, 2, "123456||8|", "123456"},
+      {"eight lose one and leave one", "\x1BT\r12345678\r9\n", 14, 2, "123456|8|9|", "123456"},
+      {"a zero byte at a field's start ends them", "\x1BT\r1\r\0\r2\n"s, 9, 3, "1|", "1\r\0\r2"s},
+      {"a zero byte inside a field does not", "\x1BT\r1\0\r2\n"s, 8, 2, "1\0|2|"s, "1\0\r2"s},
+      {"LF as the 255th byte", "\x1BT\r1\r" + std::string(249, '\r') + "\n", 255, 251,
+       "1|" + std::string(250, '|'), "1" + std::string(5, '\r')},
+      {"no LF in 255 bytes: no empty field at a CR there",
+       "\x1BT\r1\r" + std::string(250, '\r') + "\n", 255, 252, "1|" + std::string(250, '|'),
+       "1" + std::string(5, '\r')},
+      {"no LF in 255 bytes", "\x1BT\r" + longName, 255, 1,
+       [] {
+         std::string fields;
+         for (int left = 252; left > 0; left -= 7)
+           fields += "nnnnnn|";
+         return fields;
+       }(),
+       "nnnnnn"},
+  };
+  for (const auto& row : rows) {
+    CAPTURE(row.why);
+    test::GuardedBytes bytes(row.bytes);
+    stm::Block block{};
+    REQUIRE(stm::ScanBlock({bytes.data(), bytes.data() + bytes.size()}, block) == row.taken);
+    if (row.taken == 0) continue;
+    CHECK(block.crCount == row.crCount);
+    CHECK(stm::ReadRest(stm::FieldsOf(block), 8) == row.rest);
+    std::string fields;
+    for (stm::Fields left = stm::FieldsOf(block); !stm::AtEnd(left);)
+      fields.append(stm::NextField(left, 8)).append("|");
+    CHECK(fields == row.fields);
+  }
+}
+
+TEST_CASE("nothing is read behind a block's last field") {
+  test::GuardedBytes bytes(std::string("\x1BV\rSYS\n"));
+  stm::Block block{};
+  REQUIRE(stm::ScanBlock({bytes.data(), bytes.data() + bytes.size()}, block) == 7);
+  stm::Fields fields = stm::FieldsOf(block);
+  CHECK(stm::NextField(fields, 8) == "SYS");
+  CHECK(stm::NextField(fields, 8).empty());
+  CHECK(stm::ReadRest(fields, 8).empty());
+  CHECK(stm::AtEnd(fields));
 }
