@@ -46,8 +46,8 @@ bool BeginWriting(StoredList& list) {
 void RememberPartList(const uint8_t* codes) {
   uint32_t latest = latestTicket.load(std::memory_order_acquire);
   uint32_t ticket = latest + 1;
-  while (!BeginWriting(storedLists[ticket % kStoredLists]))
-    ++ticket;
+  for (; !BeginWriting(storedLists[ticket % kStoredLists]); ++ticket) {
+  }
   StoredList& list = storedLists[ticket % kStoredLists];
   for (std::atomic<uint32_t>& word : list.words) {
     uint32_t four;
