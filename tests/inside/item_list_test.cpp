@@ -134,7 +134,7 @@ TEST_CASE("blocks come from the room as long as it lasts, zero-filled, then from
 TEST_CASE("a name that no row holds gets the closing row's code") {
   static constexpr stm::NameCode table[] = {{"A", 1},        {"AB", 2},       {"A", 3},
                                             {"GOTHIC-B", 4}, {"MICRIC-B", 5}, {"GOTHIC-BB-B", 6},
-                                            {nullptr, 255}};
+                                            {"ABCD", 7},     {nullptr, 255}};
   static constexpr stm::NameCode empty[] = {{nullptr, 9}};
   struct {
     const char* name;
@@ -152,7 +152,8 @@ TEST_CASE("a name that no row holds gets the closing row's code") {
   } pieces[] = {
       {{"ABC", 2}, 2},    {{"A\0B", 3}, 1},     {"AA", 255},       {"", 255},
       {"GOTHIC-B", 4},    {"MICRIC-B", 5},      {"XOTHIC-B", 255}, {{"MICRIC-B\0", 9}, 5},
-      {"GOTHIC-BB-B", 6}, {"GOTHICBBB-B", 255}, {"OTHIC-B", 255},  {{"\0A", 2}, 255},
+      {"GOTHIC-BB-B", 6}, {"GOTHICBBB-B", 255}, {"OTHIC-B", 255},  {"ABCD", 7},
+      {"ABC\xC4", 255},   {{"\0A", 2}, 255},
   };
   for (const auto& row : pieces) {
     CAPTURE(row.piece);
