@@ -1,6 +1,7 @@
 #!/usr/bin/env python3
-"""Every language has the texts of the English file, broken into lines at the same places, and each
-can be written in the language's code page; Japanese has fifteen more."""
+"""Every language has the texts of the English file, of as many lines and with the same blanks at the
+end; each can be written in the language's code page; Japanese has fifteen more. A translation has no
+blank where nobody sees it, before a line end, or where a line may break before a colon."""
 import pathlib
 import re
 import sys
@@ -8,6 +9,7 @@ import sys
 CODE_PAGES = {"jp": "cp932", "cs": "cp1250", "hu": "cp1250", "pl": "cp1250"}  # the others: cp1252
 JAPANESE_ONLY = {404, 434, 502, 600, 604, 634, 682, 687, 689, 690, 702, 703, 706, 718, 719}
 COLOURS, DEVICES = range(930, 934), (925, 926)
+LONGEST = 255  # bytes, toner colours included: what the guide's buffer of 256 takes
 folder = pathlib.Path(__file__).resolve().parents[2] / "src/resources/strings"
 faults = []
 
@@ -18,8 +20,8 @@ def read(path):
 
 
 def layout(text):
-    """Line ends, and the blanks before them, as the English text has them."""
-    return [re.search(" *$", line)[0] for line in text.split("\n")]
+    """Line ends, the last one apart, and the blanks behind the text."""
+    return text.count("\n"), text.endswith("\n"), len(text) - len(text.rstrip(" "))
 
 
 english = read(folder / "en.rc")
@@ -40,10 +42,15 @@ for path in files:
             continue
         if id in english and layout(text) != layout(english[id]):
             faults.append(f"{language} {id}: line ends or trailing blanks differ from the English text")
+        if language != "en" and re.search(" [\n:]", text):
+            faults.append(f"{language} {id}: a blank before a line end or a colon")
         if bool(text) != (id != 800):
             faults.append(f"{language} {id}: empty, or not empty")
-    if sum(len(encoded.get(id, b"")) for id in COLOURS) > 37:
+    suffix = sum(len(encoded.get(id, b"")) for id in COLOURS)
+    if suffix > 37:
         faults.append(f"{language}: the colour names do not fit the toner suffix")
+    if max(map(len, encoded.values())) + suffix > LONGEST:
+        faults.append(f"{language}: a text may be longer than {LONGEST} bytes")
     faults += [f"{language} {id}: longer than 30 bytes" for id in DEVICES if len(encoded.get(id, b"")) > 30]
 print("\n".join(faults))
 sys.exit(bool(faults))
