@@ -1,9 +1,9 @@
-#include "picture.h"
+#include "picture/picture.h"
 
 #include <algorithm>
 
 #include "doctest/doctest.h"
-#include "texts.h"
+#include "words/texts.h"
 
 TEST_CASE("a picture shows its state and becomes PNG and half blocks") {
   const stmon::Image ready = stmon::DrawPicture(stmon::StatusSample(0, false).list);

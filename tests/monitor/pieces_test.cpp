@@ -1,10 +1,10 @@
 // The pieces that need no connection: frames, scenarios, addresses, escapes.
 #include "doctest/doctest.h"
-#include "reply_frame.h"
-#include "safe_text.h"
-#include "scenario.h"
-#include "simulated_printer.h"
-#include "transport.h"
+#include "simulator/scenario.h"
+#include "simulator/simulated_printer.h"
+#include "wire/reply_frame.h"
+#include "wire/transport.h"
+#include "words/safe_text.h"
 
 using namespace std::string_literals;
 using namespace std::string_view_literals;

@@ -2,9 +2,10 @@
 #include <chrono>
 
 #include "doctest/doctest.h"
-#include "reports.h"
-#include "simulated_printer.h"
-#include "snapshot.h"
+#include "report/reports.h"
+#include "simulator/simulated_printer.h"
+#include "snapshot/snapshot.h"
+#include "wire/query.h"
 
 using stmon::Outcome;
 using stmon::Verdict;
@@ -69,7 +70,7 @@ TEST_CASE("a poll fills what the printer told, and only that") {
   const auto snapshot = Poll("no-paper");
   REQUIRE(snapshot.conditions.size() == 1);
   CHECK(snapshot.conditions[0].code == 32);
-  CHECK(snapshot.current_tray == 3);
+  CHECK(snapshot.currentTray == 3);
   REQUIRE(snapshot.trays.size() == 2);
   CHECK(snapshot.trays[0].paper == PaperNone);
   CHECK(snapshot.trays[1].level == 50);
@@ -79,7 +80,7 @@ TEST_CASE("a poll fills what the printer told, and only that") {
                                                stmon::JudgeReply(only_status));
   CHECK(short_reply.told);
   CHECK(short_reply.trays.empty());
-  CHECK_FALSE(short_reply.current_bin);
+  CHECK_FALSE(short_reply.currentBin);
   const auto no_levels =
       stmon::ReadExchange({"test", "", "", stmon::RecordKind::List},
                           stmon::JudgeReply("\x1BS\r0\r0\r1\n\x1BT\r1\r6\n\x1B "));

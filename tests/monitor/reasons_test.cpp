@@ -1,9 +1,9 @@
-#include "reasons.h"
+#include "words/reasons.h"
 
 #include <set>
 
 #include "doctest/doctest.h"
-#include "snapshot.h"
+#include "snapshot/snapshot.h"
 
 TEST_CASE("every code of the library has a reason of its own, every other code is told as other") {
   for (uint32_t code = 0; code < 2000; ++code) {

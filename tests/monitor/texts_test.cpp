@@ -1,12 +1,12 @@
-#include "texts.h"
+#include "words/texts.h"
 
 #include <sstream>
 
-#include "catalogue.h"
 #include "doctest/doctest.h"
 #include "nlohmann/json.hpp"
-#include "ranking.h"
-#include "reports.h"
+#include "report/catalogue.h"
+#include "report/reports.h"
+#include "snapshot/ranking.h"
 
 namespace {
 

@@ -1,9 +1,9 @@
-#include "watch.h"
+#include "report/watch.h"
 
 #include <chrono>
 
 #include "doctest/doctest.h"
-#include "reports.h"
+#include "report/reports.h"
 
 using namespace std::chrono_literals;
 using stmon::EventKind;

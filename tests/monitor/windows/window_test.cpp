@@ -5,9 +5,9 @@
 #include <string>
 #include <thread>
 
-#include "dialog/resource.h"
 #include "doctest/doctest.h"
-#include "simulated_printer.h"
+#include "simulator/simulated_printer.h"
+#include "stmonw/resource.h"
 
 namespace {
 

@@ -1,0 +1,88 @@
+#include "picture/picture.h"
+
+#include <algorithm>
+
+#include "picture/picture_system.h"
+
+namespace stmon {
+namespace {
+
+Image Scaled(const Image& image, int columns) {
+  if (columns <= 0 || columns >= image.width) return image;
+  Image small{columns, std::max(1, image.height * columns / image.width), {}};
+  for (int y = 0; y < small.height; ++y) {
+    const int top = y * image.height / small.height;
+    const int bottom = std::max(top + 1, (y + 1) * image.height / small.height);
+    for (int x = 0; x < small.width; ++x) {
+      const int left = x * image.width / small.width;
+      const int right = std::max(left + 1, (x + 1) * image.width / small.width);
+      uint32_t red = 0, green = 0, blue = 0;
+      for (int row = top; row < bottom; ++row) {
+        for (int column = left; column < right; ++column) {
+          const uint32_t pixel = image.pixels[static_cast<size_t>(row * image.width + column)];
+          red += pixel >> 16 & 255;
+          green += pixel >> 8 & 255;
+          blue += pixel & 255;
+        }
+      }
+      const auto count = static_cast<uint32_t>((bottom - top) * (right - left));
+      small.pixels.push_back(red / count << 16 | green / count << 8 | blue / count);
+    }
+  }
+  return small;
+}
+
+std::string ColourCode(uint32_t pixel, bool true_colour) {
+  const uint32_t red = pixel >> 16 & 255, green = pixel >> 8 & 255, blue = pixel & 255;
+  if (!true_colour) {
+    const auto level = [](uint32_t value) { return (value * 5 + 127) / 255; };
+    return "5;" + std::to_string(16 + 36 * level(red) + 6 * level(green) + level(blue));
+  }
+  return "2;" + std::to_string(red) + ";" + std::to_string(green) + ";" + std::to_string(blue);
+}
+
+}  // namespace
+
+Image DrawPicture(const PrnInfoEx& record) {
+  PrnBitmap bitmap{};
+  if (PatGetPrnBitmap_Ex(&record, &bitmap) != 1) return {};
+  return DrawParts(bitmap);
+}
+
+Image DrawPicture(const PrnInfo& info) {
+  PrnBitmap bitmap{};
+  if (PatGetPrnBitmap(&info, &bitmap) != 1) return {};
+  return DrawParts(bitmap);
+}
+
+std::string ExistingIcon(const std::string& name) {
+  if (name == "ICO_ERR_POWEROFF") return "ICO_OFFLINE";
+  if (name == "BMP_ERR_CAUTION") return "ICO_ERR_CAUTION";
+  return name;
+}
+
+Image DrawIcon(const std::string& name) {
+  return ReadIcon(ExistingIcon(name).c_str());
+}
+
+std::string HalfBlocks(const Image& image, int columns, bool true_colour) {
+  const Image small = Scaled(image, columns);
+  std::string text;
+  for (int y = 0; y + 1 < small.height; y += 2) {
+    std::string before;
+    for (int x = 0; x < small.width; ++x) {
+      const auto at = static_cast<size_t>(y * small.width + x);
+      const uint32_t upper = small.pixels[at];
+      const uint32_t lower = small.pixels[at + static_cast<size_t>(small.width)];
+      const std::string colours = "\x1B[38;" + ColourCode(upper, true_colour) + ";48;" +
+                                  ColourCode(lower, true_colour) + "m";
+      if (colours != before) text += colours;
+      before = colours;
+      text += "\xE2\x96\x80";  // upper half block
+    }
+    text += "\x1B[0m\n";
+  }
+  return text;
+}
+
+}  // namespace stmon

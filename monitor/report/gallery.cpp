@@ -1,0 +1,166 @@
+#include "report/gallery.h"
+
+#include <map>
+
+#include "nlohmann/json.hpp"
+#include "picture/picture.h"
+#include "report/catalogue.h"
+#include "system/files.h"
+#include "words/reasons.h"
+#include "words/texts.h"
+
+namespace stmon {
+namespace {
+
+using Json = nlohmann::ordered_json;
+
+struct Build {
+  const char* name;  // of the files, behind the status code
+  bool duplex;
+  uint32_t trays;  // 1 to 3
+};
+
+constexpr Build kBuilds[] = {
+    //  name                duplex trays
+    {"", false, 1},              // the printer alone
+    {"-tray2", false, 2},        //
+    {"-tray3", false, 3},        //
+    {"-duplex", true, 1},        //
+    {"-duplex-tray2", true, 2},  //
+    {"-duplex-tray3", true, 3},  // all there is
+};
+
+std::string Base64(const std::string& bytes) {
+  constexpr char kDigits[] = "ABCDEFGHIJKLMNOPQRSTUVWXYZabcdefghijklmnopqrstuvwxyz0123456789+/";
+  std::string text;
+  for (size_t at = 0; at < bytes.size(); at += 3) {
+    uint32_t bits = 0;
+    for (size_t i = 0; i < 3; ++i)
+      bits = bits << 8 | (at + i < bytes.size() ? static_cast<uint8_t>(bytes[at + i]) : 0u);
+    for (size_t i = 0; i < 4; ++i)
+      text += at + i <= bytes.size() ? kDigits[bits >> (18 - 6 * i) & 63] : '=';
+  }
+  return text;
+}
+
+// Many statuses share a picture; the page carries each once.
+struct Images {
+  std::map<std::string, size_t> numbers;
+  Json data = Json::array();
+};
+
+size_t NumberOf(Images& images, const std::string& png) {
+  const auto [place, added] = images.numbers.try_emplace(png, images.data.size());
+  if (added) images.data.push_back("data:image/png;base64," + Base64(png));
+  return place->second;
+}
+
+std::string WriteImage(const std::string& file, const std::string& png) {
+  const std::string trouble = WriteWholeFile(file, png);
+  return trouble.empty() ? "" : file + ": " + trouble;
+}
+
+std::string FileStem(uint32_t code) {
+  const std::string digits = std::to_string(code);
+  return std::string(digits.size() < 3 ? 3 - digits.size() : 0, '0') + digits;
+}
+
+constexpr const char* kPageHead = R"(<!doctype html>
+<html lang="en"><head><meta charset="utf-8"><title>Printer states</title>
+<meta name="viewport" content="width=device-width, initial-scale=1">
+<style>
+body { font: 15px/1.45 system-ui, sans-serif; margin: 1.5rem; color: #222; background: #f4f4f2; }
+header { display: flex; flex-wrap: wrap; gap: 1rem 2rem; align-items: baseline; margin-bottom: 1rem; }
+h1 { font-size: 1.4rem; margin: 0; }
+main { display: grid; gap: 1rem; grid-template-columns: repeat(auto-fill, minmax(340px, 1fr)); }
+article { background: #fff; border: 1px solid #ddd; border-radius: 6px; padding: 10px; }
+article > img { display: block; width: 320px; height: 200px; image-rendering: pixelated; }
+h2 { font-size: 1rem; margin: .5rem 0 .2rem; display: flex; gap: .5rem; align-items: center; }
+p { margin: .2rem 0; white-space: pre-line; }
+small { color: #666; }
+</style></head><body>
+<header><h1>Printer states</h1>
+<label>Language <select id="language"></select></label>
+<label><input type="checkbox" id="duplex"> duplex unit</label>
+<label>Trays <select id="trays"><option>1<option>2<option>3</select></label></header>
+<main id="cards"></main>
+<script>
+const data = )";
+
+constexpr const char* kPageTail = R"(;
+const at = id => document.getElementById(id);
+for (const [code, name] of data.languages) at("language").add(new Option(name, code));
+function show() {
+  const duplex = at("duplex").checked, build = (duplex ? 3 : 0) + at("trays").selectedIndex;
+  document.documentElement.lang = at("language").selectedOptions[0].value;
+  at("cards").replaceChildren(...data.states.map(state => {
+    const [brief, plain, open] = state.texts[at("language").value];
+    const make = (tag, text) => Object.assign(document.createElement(tag), { textContent: text });
+    const image = (number, alt) => Object.assign(new Image(), { src: data.images[number], alt });
+    const title = make("h2", "");
+    if (state.icon !== null) title.append(image(state.icon, ""));
+    title.append(brief || "\u2013");
+    const card = make("article", "");
+    card.append(image(state.pictures[build], brief), title, make("p", duplex ? open : plain),
+                make("small", `code ${state.code} \u00b7 ${state.reason}`));
+    return card;
+  }));
+}
+for (const id of ["language", "duplex", "trays"]) at(id).addEventListener("change", show);
+show();
+</script></body></html>
+)";
+
+Json StateTexts(uint32_t code) {
+  Json texts;
+  const StatusSample plain(code, false);
+  const StatusSample duplex(code, true);
+  for (const Language* language = kLanguages; language->code; ++language) {
+    const Texts alone = AskTexts(plain.list, *language);
+    texts[language->code] = {alone.brief, alone.detail, AskTexts(duplex.list, *language).detail};
+  }
+  return texts;
+}
+
+}  // namespace
+
+std::string WriteGallery(const std::string& folder, void (*progress)(const std::string& line)) {
+  for (const char* part : {"", "/pictures", "/icons"}) {
+    const std::string trouble = MakeFolder(folder + part);
+    if (!trouble.empty()) return folder + part + ": " + trouble;
+  }
+  Images images;
+  Json page;
+  for (const Language* language = kLanguages; language->code; ++language)
+    page["languages"].push_back({language->code, language->name});
+  const auto codes = KnownCodes();
+  for (size_t i = 0; i < codes.size(); ++i) {
+    const uint32_t code = codes[i];
+    Json state{{"code", code}, {"reason", Keyword(ReasonOf(code))}, {"icon", nullptr}};
+    for (const Build& build : kBuilds) {
+      const StatusSample sample(code, build.duplex, build.trays);
+      const std::string png = EncodePng(DrawPicture(sample.list));
+      const std::string wrong =
+          WriteImage(folder + "/pictures/" + FileStem(code) + build.name + ".png", png);
+      if (!wrong.empty()) return wrong;
+      state["pictures"].push_back(NumberOf(images, png));
+    }
+    const std::string icon = AskIcon(StatusSample(code, false).list);
+    if (const Image image = DrawIcon(icon); !image.pixels.empty()) {
+      const std::string png = EncodePng(image);
+      const std::string wrong = WriteImage(folder + "/icons/" + icon + ".png", png);
+      if (!wrong.empty()) return wrong;
+      state["icon"] = NumberOf(images, png);
+    }
+    state["texts"] = StateTexts(code);
+    page["states"].push_back(std::move(state));
+    if (i % 10 == 9 || i + 1 == codes.size())
+      progress(std::to_string(i + 1) + " of " + std::to_string(codes.size()) + " states");
+  }
+  page["images"] = std::move(images.data);
+  const std::string trouble =
+      WriteWholeFile(folder + "/index.html", kPageHead + page.dump() + kPageTail);
+  return trouble.empty() ? "" : folder + "/index.html: " + trouble;
+}
+
+}  // namespace stmon

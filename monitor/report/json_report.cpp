@@ -1,0 +1,155 @@
+#include <algorithm>
+
+#include "nlohmann/json.hpp"
+#include "report/reports.h"
+#include "words/clock.h"
+#include "words/labels.h"
+#include "words/safe_text.h"
+
+namespace stmon {
+namespace {
+
+using Json = nlohmann::ordered_json;
+
+Json AlertJson(const Reason& reason) {
+  Json json{{"code", reason.alert}, {"name", AlertName(reason.alert)}, {"group", reason.group}};
+  if (reason.supply != 0) json["supply_type"] = reason.supply;
+  if (reason.severity != Severity::Report)
+    json["severity"] = reason.severity == Severity::Error ? "critical" : "warning";
+  return json;
+}
+
+Json TextsJson(const Texts& texts) {
+  return {{"short", texts.brief}, {"detail", texts.detail}};
+}
+
+Json ConditionJson(const Condition& condition, bool dominant) {
+  const Reason& reason = *condition.reason;
+  Json json{{"code", condition.code},
+            {"known", condition.known},
+            {"dominant", dominant},
+            {"rank", condition.rank}};
+  json["texts"] = TextsJson(condition.texts);
+  if (condition.known) json["level"] = condition.row.level;
+  json["severity"] = SeverityWord(reason.severity);
+  json["reason"] = Keyword(reason);
+  if (const char* colour = TonerColour(condition.code); *colour) json["colour"] = colour;
+  if (reason.alert != 0) json["alert"] = AlertJson(reason);
+  if (reason.errorBits != 0) json["detected_error_state"] = ErrorBitNames(reason.errorBits);
+  return json;
+}
+
+// "stopped" when something keeps the printer from printing, as printer-state has it.
+const char* StateWord(const Snapshot& snapshot) {
+  for (const Condition& condition : snapshot.conditions) {
+    if (condition.reason->severity == Severity::Error) return "stopped";
+  }
+  if (!snapshot.online) return "stopped";
+  return snapshot.dominant == std::vector<uint32_t>{StatusPrinting} ? "processing" : "idle";
+}
+
+bool IsDominant(const Snapshot& snapshot, uint32_t code) {
+  return std::find(snapshot.dominant.begin(), snapshot.dominant.end(), code) !=
+         snapshot.dominant.end();
+}
+
+Json TrayJson(const Tray& tray) {
+  Json json{{"id", tray.id}, {"name", TrayLabel(tray.id)}, {"paper_code", tray.paper}};
+  if (tray.paper != 0) json["paper"] = PaperLabel(tray.paper);
+  if (tray.level) json["level"] = *tray.level;
+  return json;
+}
+
+Json OptionJson(const Option& option) {
+  Json json{{"code", option.code}, {"name", OptionLabel(option.code)}};
+  if (option.value && *option.value != 0) json["value"] = *option.value;
+  return json;
+}
+
+Json LanguageJson(uint32_t code) {
+  return {{"code", code}, {"name", LanguageLabel(code)}};
+}
+
+Json IdentityJson(const Identity& identity) {
+  Json json = Json::object();
+  if (!identity.maker.empty()) json["maker"] = EscapeBytes(identity.maker);
+  if (!identity.model.empty()) json["model"] = EscapeBytes(identity.model);
+  if (!identity.description.empty()) json["description"] = EscapeBytes(identity.description);
+  if (identity.modelCode) json["model_code"] = *identity.modelCode;
+  for (const uint32_t code : identity.languages)
+    json["languages"].push_back(LanguageJson(code));
+  return json;
+}
+
+std::string WhyText(const Snapshot& snapshot) {
+  if (snapshot.dominant.empty()) return "no condition is reported";
+  const uint32_t code = snapshot.dominant[0];
+  const bool known = std::any_of(
+      snapshot.conditions.begin(), snapshot.conditions.end(),
+      [&](const Condition& condition) { return condition.code == code && condition.known; });
+  if (!known) return "no reported code is known; the first one stands for the printer";
+  if (snapshot.dominant.size() > 1) return "these codes share the most important rank";
+  return snapshot.conditions.size() > 1 ? "the most important of the reported codes"
+                                        : "the only reported code";
+}
+
+void AddState(Json& json, const Snapshot& snapshot) {
+  json["online"] = snapshot.online;
+  json["printer_state"] = StateWord(snapshot);
+  json["printer_state_reasons"] = StateReasons(snapshot);
+  json["language"] = snapshot.source.language->code;
+  json["status"] = StatusText(snapshot);
+  json["texts"] = TextsJson(snapshot.texts);
+  json["icon"] = snapshot.icon;
+  json["dominant"] = snapshot.dominant;
+  json["why"] = WhyText(snapshot);
+  json["conditions"] = Json::array();
+  for (const Condition& condition : snapshot.conditions)
+    json["conditions"].push_back(ConditionJson(condition, IsDominant(snapshot, condition.code)));
+  if (snapshot.currentTray) json["tray_in_use"] = *snapshot.currentTray;
+  if (snapshot.currentBin) json["bin_in_use"] = *snapshot.currentBin;
+  for (const Tray& tray : snapshot.trays)
+    json["trays"].push_back(TrayJson(tray));
+  for (const Bin& bin : snapshot.bins)
+    json["bins"].push_back({{"id", bin.id}, {"state", bin.state}});
+}
+
+void AddEquipment(Json& json, const Snapshot& snapshot) {
+  if (snapshot.options) {
+    json["options"] = Json::array();
+    for (const Option& option : *snapshot.options)
+      json["options"].push_back(OptionJson(option));
+  }
+  for (const std::string& version : snapshot.versions)
+    json["versions"].push_back(EscapeBytes(version));
+  if (snapshot.number) json["number"] = *snapshot.number;
+  if (snapshot.language) json["printer_language"] = LanguageJson(*snapshot.language);
+  if (!snapshot.fonts.empty()) json["font_codes"] = snapshot.fonts;
+  for (const std::string& name : snapshot.fontNames)
+    json["fonts"].push_back(EscapeBytes(name));
+}
+
+}  // namespace
+
+std::string JsonReport(const Snapshot& snapshot, bool all_languages) {
+  Json json;
+  if (!snapshot.source.name.empty()) json["source"] = CleanUtf8(snapshot.source.name);
+  json["time"] = UtcText(snapshot.when);
+  json["outcome"] = OutcomeWord(snapshot.exchange.outcome);
+  if (snapshot.took.count() != 0) json["milliseconds"] = snapshot.took.count();
+  if (!snapshot.trouble.empty()) json["trouble"] = CleanUtf8(snapshot.trouble);
+  json["exit_status"] = static_cast<int>(snapshot.verdict);
+  if (snapshot.identity) json["device_id"] = IdentityJson(*snapshot.identity);
+  if (snapshot.told) {
+    json["record"] = snapshot.source.kind == RecordKind::Flat ? "flat" : "list";
+    AddState(json, snapshot);
+    if (all_languages) {
+      for (const Language* language = kLanguages; language->code; ++language)
+        json["all_texts"][language->code] = TextsJson(TextsIn(snapshot, *language));
+    }
+    AddEquipment(json, snapshot);
+  }
+  return json.dump() + "\n";
+}
+
+}  // namespace stmon

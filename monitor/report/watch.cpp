@@ -1,0 +1,243 @@
+#include "report/watch.h"
+
+#include <algorithm>
+#include <map>
+
+#include "nlohmann/json.hpp"
+#include "words/clock.h"
+#include "words/labels.h"
+#include "words/safe_text.h"
+
+namespace stmon {
+namespace {
+
+// The parts of a group by name or number, each as a text for people.
+using Parts = std::map<std::string, std::string>;
+
+// The headline alone; reminders under the same headline are told as conditions.
+Parts StatusParts(const Snapshot& snapshot) {
+  return {{"", StatusText(snapshot)}};
+}
+
+Parts StateParts(const Snapshot& snapshot) {
+  return {{"", snapshot.online ? "online" : "offline"}};
+}
+
+Parts TrayParts(const Snapshot& snapshot) {
+  Parts parts;
+  for (const Tray& tray : snapshot.trays) {
+    std::string text = TrayLabel(tray.id);
+    if (tray.paper != 0) text += ", " + PaperLabel(tray.paper);
+    if (tray.level) text += ", level " + std::to_string(*tray.level);
+    parts[std::to_string(tray.id)] = text;
+  }
+  if (snapshot.currentTray) parts["in use"] = TrayLabel(*snapshot.currentTray) + " in use";
+  return parts;
+}
+
+Parts BinParts(const Snapshot& snapshot) {
+  Parts parts;
+  for (const Bin& bin : snapshot.bins)
+    parts[std::to_string(bin.id)] = BinLabel(bin.id) + ", state " + std::to_string(bin.state);
+  if (snapshot.currentBin) parts["in use"] = BinLabel(*snapshot.currentBin) + " in use";
+  return parts;
+}
+
+Parts OptionParts(const Snapshot& snapshot) {
+  Parts parts;
+  if (!snapshot.options) return parts;
+  for (const Option& option : *snapshot.options)
+    parts[std::to_string(option.code)] = OptionLabel(option.code);
+  return parts;
+}
+
+Parts LanguageParts(const Snapshot& snapshot) {
+  if (!snapshot.language) return {};
+  return {{"", LanguageLabel(*snapshot.language)}};
+}
+
+Parts FontParts(const Snapshot& snapshot) {
+  Parts parts;
+  for (const std::string& name : snapshot.fontNames)
+    parts[name] = EscapeBytes(name);
+  return parts;
+}
+
+Parts ModelParts(const Snapshot& snapshot) {
+  Parts parts;
+  for (size_t i = 0; i < snapshot.versions.size(); ++i)
+    parts["version" + std::to_string(i)] = "version " + EscapeBytes(snapshot.versions[i]);
+  if (snapshot.number) parts["number"] = "number " + std::to_string(*snapshot.number);
+  return parts;
+}
+
+struct Group {
+  const char* name;
+  uint32_t bits;  // what the library compares
+  Parts (*parts)(const Snapshot& snapshot);
+};
+
+constexpr Group kGroups[] = {
+    {"status", GroupStatusList, StatusParts},                //
+    {"state", GroupStatus, StateParts},                      //
+    {"trays", GroupTrays, TrayParts},                        //
+    {"bins", GroupBins, BinParts},                           //
+    {"options", GroupOptions, OptionParts},                  //
+    {"language", GroupEmulation, LanguageParts},             //
+    {"fonts", GroupFonts, FontParts},                        //
+    {"model", GroupModelInfo | GroupEmulation, ModelParts},  // versions are in both groups
+};
+
+bool Agree(const Snapshot& before, const Snapshot& after, uint32_t groups) {
+  uint32_t equal = 0;
+  PatCmpPrnInfoEX(before.record.get(), after.record.get(), groups, &equal);
+  return equal == 1;
+}
+
+// The library says whether the group changed, the parts say what.
+void AddGroup(std::vector<Event>& events, const Group& group, const Snapshot& before,
+              const Snapshot& after) {
+  if (Agree(before, after, group.bits)) return;
+  const Parts old_parts = group.parts(before);
+  const Parts new_parts = group.parts(after);
+  for (const auto& [key, text] : old_parts) {
+    const auto now = new_parts.find(key);
+    if (now == new_parts.end()) {
+      events.push_back({EventKind::Went, group.name, text, "", {}});
+    } else if (now->second != text) {
+      events.push_back({EventKind::Changed, group.name, text, now->second, {}});
+    }
+  }
+  for (const auto& [key, text] : new_parts) {
+    if (!old_parts.contains(key)) events.push_back({EventKind::Came, group.name, "", text, {}});
+  }
+}
+
+bool Lists(const Snapshot& snapshot, uint32_t code) {
+  return std::any_of(snapshot.conditions.begin(), snapshot.conditions.end(),
+                     [&](const Condition& condition) { return condition.code == code; });
+}
+
+// "Ready" comes and goes with the status line: it is no condition to be told of twice.
+void AddConditions(std::vector<Event>& events, const Snapshot& before, const Snapshot& after) {
+  for (const Condition& condition : before.conditions) {
+    if (condition.code != 0 && !Lists(after, condition.code))
+      events.push_back(
+          {EventKind::Went, "conditions", ConditionText(condition), "", condition.code});
+  }
+  for (const Condition& condition : after.conditions) {
+    if (condition.code != 0 && !Lists(before, condition.code))
+      events.push_back(
+          {EventKind::Came, "conditions", "", ConditionText(condition), condition.code});
+  }
+}
+
+const char* KindWord(EventKind kind) {
+  switch (kind) {
+    case EventKind::First:
+      return "first";
+    case EventKind::Changed:
+      return "changed";
+    case EventKind::Came:
+      return "came";
+    case EventKind::Went:
+      return "went";
+    case EventKind::Lost:
+      return "lost";
+    case EventKind::Back:
+      break;
+  }
+  return "back";
+}
+
+std::optional<std::chrono::system_clock::time_point> LastAnswer(const Watch& watch) {
+  if (!watch.good) return {};
+  return watch.good->when;
+}
+
+std::vector<Event> ObserveFailure(Watch& watch, const Snapshot& latest, SteadyTime now) {
+  const bool news = watch.failures == 0 || watch.failing != latest.exchange.outcome;
+  ++watch.failures;
+  watch.failing = latest.exchange.outcome;
+  if (!news) return {};
+  std::string from = "never answered so far";
+  if (watch.good) from = "last answer " + AgeText(now - watch.goodAt) + " ago";
+  return {{EventKind::Lost, "printer", from, latest.trouble, {}, LastAnswer(watch)}};
+}
+
+}  // namespace
+
+std::vector<Event> Observe(Watch& watch, const Snapshot& latest, SteadyTime now) {
+  if (!latest.told || latest.exchange.outcome != Outcome::Answered)
+    return ObserveFailure(watch, latest, now);
+  std::vector<Event> events;
+  if (!watch.good) {
+    events.push_back({EventKind::First, "printer", "", StatusText(latest), {}});
+  } else {
+    if (watch.failures > 0) {
+      events.push_back({EventKind::Back,
+                        "printer",
+                        "no usable answer for " + AgeText(now - watch.goodAt),
+                        StatusText(latest),
+                        {},
+                        LastAnswer(watch)});
+    }
+    for (const Group& group : kGroups)
+      AddGroup(events, group, *watch.good, latest);
+    AddConditions(events, *watch.good, latest);
+  }
+  watch.good = latest;
+  watch.goodAt = now;
+  watch.failures = 0;
+  return events;
+}
+
+std::chrono::milliseconds NextWait(const Watch& watch, std::chrono::milliseconds interval) {
+  constexpr std::chrono::milliseconds kLongest = std::chrono::minutes(1);
+  auto wait = interval;
+  for (uint32_t i = 0; i < watch.failures && wait < kLongest; ++i)
+    wait *= 2;
+  return std::max(interval, std::min(wait, kLongest));
+}
+
+std::string EventText(const Event& event, const Snapshot& latest) {
+  std::string line = LocalText(latest.when) + "  " + event.group;
+  line.append(event.group.size() < 12 ? 12 - event.group.size() : 1, ' ');
+  switch (event.kind) {
+    case EventKind::First:
+      return line + "answers for the first time: " + event.to + "\n";
+    case EventKind::Changed:
+      return line + event.from + " -> " + event.to + "\n";
+    case EventKind::Came:
+      return line + "+ " + event.to + "\n";
+    case EventKind::Went:
+      return line + "- " + event.from + "\n";
+    case EventKind::Lost:
+      return line + "no usable answer (" + event.from + "): " + event.to + "\n";
+    case EventKind::Back:
+      return line + "answers again (" + event.from + "): " + event.to + "\n";
+  }
+  return line;
+}
+
+std::string EventJson(const Event& event, const Snapshot& latest) {
+  nlohmann::ordered_json json;
+  json["time"] = UtcText(latest.when);
+  json["source"] = CleanUtf8(latest.source.name);
+  json["group"] = event.group;
+  json["event"] = KindWord(event.kind);
+  if (!event.from.empty()) json["from"] = CleanUtf8(event.from);
+  if (!event.to.empty()) json["to"] = CleanUtf8(event.to);
+  if (event.code) {
+    const Reason& reason = ReasonOf(*event.code);
+    json["code"] = *event.code;
+    json["reason"] = Keyword(reason);
+    json["severity"] = SeverityWord(reason.severity);
+  }
+  if (event.lastAnswer) json["last_answer"] = UtcText(*event.lastAnswer);
+  if (event.kind == EventKind::Lost) json["outcome"] = OutcomeWord(latest.exchange.outcome);
+  json["exit_status"] = static_cast<int>(latest.verdict);
+  return json.dump() + "\n";
+}
+
+}  // namespace stmon

@@ -1,0 +1,30 @@
+// A printer made of a scenario, on a loopback TCP port.
+#pragma once
+
+#include <cstdint>
+#include <memory>
+#include <string>
+#include <string_view>
+
+#include "simulator/scenario.h"
+
+namespace stmon {
+
+// The blocks that a query asks for, by letter, in its order.
+std::string RequestedBlocks(std::string_view query);
+
+// The reply of a printer in that state: the status block, the blocks asked for, the end marker.
+std::string BuildReply(const PrinterState& state, std::string_view requested);
+
+struct SimulatedPrinter;  // owns its sockets and its thread
+
+// Listens at 127.0.0.1. `port` 0: any free port. Result: null and the reason in `trouble` when the
+// port cannot be had.
+std::unique_ptr<SimulatedPrinter, void (*)(SimulatedPrinter*)> StartPrinter(
+    const Scenario& scenario, uint16_t port, std::string& trouble);
+uint16_t PrinterPort(const SimulatedPrinter& printer);
+
+// Waits until the process is ended from outside.
+void ServeForever(SimulatedPrinter& printer);
+
+}  // namespace stmon

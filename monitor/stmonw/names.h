@@ -1,0 +1,23 @@
+// Names in the language chosen where the library has them, and text as the window takes it.
+#pragma once
+
+#include <cstdint>
+#include <string>
+#include <string_view>
+
+#include "words/languages.h"
+
+namespace stmonw {
+
+// "Tray 1", "A4", "Duplex Unit"; where the library has the name in Japanese only, the other
+// languages get an English one.
+std::wstring TrayName(uint32_t id, const stmon::Language& language);
+std::wstring PaperName(uint32_t code, const stmon::Language& language);
+std::wstring OptionName(uint32_t code, const stmon::Language& language);
+
+bool IsJapanese(const stmon::Language& language);
+
+std::wstring Wide(std::string_view utf8);
+std::string Utf8(std::wstring_view wide);
+
+}  // namespace stmonw

@@ -1,0 +1,184 @@
+#include "stmonw/view.h"
+
+#include <algorithm>
+
+#include "picture/picture.h"
+#include "words/clock.h"
+#include "words/labels.h"
+#include "words/safe_text.h"
+
+namespace stmonw {
+namespace {
+
+constexpr uint32_t kPaperLevelIcon = 1;  // kind of PatGetIconName
+constexpr uint32_t kFullTray = 100;      // per cent
+constexpr const wchar_t* kInUse = L" (in use)";
+
+bool Responds(const Knowledge& knowledge) {
+  return knowledge.latest && knowledge.latest->told;
+}
+
+std::wstring WithCrLf(const std::wstring& text) {
+  std::wstring lines;
+  for (const wchar_t unit : text) {
+    if (unit == L'\n') lines += L'\r';
+    lines += unit;
+  }
+  return lines;
+}
+
+// Offline hides what would decide otherwise.
+std::vector<std::wstring> OtherConditions(const stmon::Snapshot& snapshot) {
+  const bool offline = !snapshot.online && !snapshot.hasError;
+  const auto& dominant = snapshot.dominant;
+  std::vector<std::wstring> others;
+  for (const stmon::Condition& condition : snapshot.conditions) {
+    const bool decides =
+        std::find(dominant.begin(), dominant.end(), condition.code) != dominant.end();
+    if (condition.code == 0 || (decides && !offline)) continue;
+    std::string text = condition.texts.detail;
+    std::replace(text.begin(), text.end(), '\n', ' ');
+    others.push_back(Wide(text.empty() ? stmon::ConditionText(condition) : text));
+  }
+  return others;
+}
+
+TrayLine LineOf(const stmon::Tray& tray, bool in_use, const stmon::Language& language) {
+  TrayLine line;
+  line.name = TrayName(tray.id, language);
+  if (in_use) line.name += kInUse;
+  line.paper = PaperName(tray.paper, language);
+  char name[32] = "";
+  if (PatGetPaperBitmap_Ex(nullptr, tray.paper, name) == 1) line.paperBitmap = name;
+  const bool holds_paper = tray.paper != PaperNone && tray.paper != PaperTrayMissing;
+  if (tray.level && tray.paper != PaperTrayMissing) {
+    const uint32_t level = holds_paper ? *tray.level : 0;
+    line.level = Wide(std::to_string(level) + (level <= kFullTray ? " %" : ""));
+    if (PatGetIconName(kPaperLevelIcon, level, name, sizeof name) == 1) line.levelIcon = name;
+  }
+  line.text = line.name + L", " + line.paper + (line.level.empty() ? L"" : L", ") + line.level;
+  return line;
+}
+
+std::vector<std::wstring> Equipment(const stmon::Snapshot& snapshot,
+                                    const stmon::Language& language) {
+  std::vector<std::wstring> lines;
+  if (snapshot.options) {
+    for (const stmon::Option& option : *snapshot.options) {
+      if (option.code != 0) lines.push_back(OptionName(option.code, language));
+    }
+  }
+  for (const stmon::Bin& bin : snapshot.bins) {
+    lines.push_back(Wide(stmon::BinLabel(bin.id)));
+    if (snapshot.currentBin == bin.id) lines.back() += kInUse;
+  }
+  if (snapshot.language) lines.push_back(Wide(stmon::LanguageLabel(*snapshot.language)));
+  if (!snapshot.versions.empty()) {
+    std::string versions = "Version";
+    for (const std::string& version : snapshot.versions)
+      versions += " " + stmon::EscapeBytes(version);
+    lines.push_back(Wide(versions));
+  }
+  return lines;
+}
+
+std::wstring ClockText(std::chrono::system_clock::time_point when) {
+  const auto seconds = std::chrono::duration_cast<std::chrono::seconds>(when.time_since_epoch());
+  // FILETIME counts 100 ns from 1601.
+  const uint64_t ticks = (static_cast<uint64_t>(seconds.count()) + 11644473600ull) * 10000000ull;
+  const FILETIME time = {static_cast<DWORD>(ticks), static_cast<DWORD>(ticks >> 32)};
+  SYSTEMTIME universal, local;
+  wchar_t text[64] = L"";
+  if (FileTimeToSystemTime(&time, &universal) &&
+      SystemTimeToTzSpecificLocalTime(nullptr, &universal, &local))
+    GetTimeFormatW(LOCALE_USER_DEFAULT, 0, &local, nullptr, text, 64);
+  return text;
+}
+
+std::wstring AgeText(std::chrono::system_clock::duration age) {
+  const auto shown = std::max(age, std::chrono::system_clock::duration::zero());
+  return Wide(
+      stmon::AgeText(std::chrono::duration_cast<std::chrono::steady_clock::duration>(shown)));
+}
+
+// The first sentence tells what happened; the rest is advice for a command line.
+std::string FirstSentence(const std::string& text) {
+  const size_t end = text.find(". ");
+  return end == std::string::npos ? text : text.substr(0, end + 1);
+}
+
+}  // namespace
+
+void Learn(Knowledge& knowledge, stmon::Snapshot snapshot) {
+  if (snapshot.told) knowledge.lastGood = snapshot;
+  knowledge.latest = std::move(snapshot);
+}
+
+PrnInfoEx ShownRecord(const Knowledge& knowledge) {
+  PrnInfoEx record{};
+  if (knowledge.lastGood) record = *knowledge.lastGood->record;
+  if (knowledge.latest && !Responds(knowledge)) {
+    // Without the error flag the texts would call it offline, which the printer has not said.
+    record.noResponse = 1;
+    record.hasError = 1;
+  }
+  return record;
+}
+
+void Translate(Knowledge& knowledge, const stmon::Language& language) {
+  for (auto* snapshot : {&knowledge.latest, &knowledge.lastGood}) {
+    if (!*snapshot) continue;
+    const auto when = (*snapshot)->when;
+    stmon::Source source = (*snapshot)->source;
+    source.language = &language;
+    *snapshot = stmon::ReadExchange(std::move(source), std::move((*snapshot)->exchange));
+    (*snapshot)->when = when;
+  }
+}
+
+View MakeView(const Knowledge& knowledge, const stmon::Language& language) {
+  View view;
+  if (!knowledge.latest) {
+    view.shortText = L"Connecting...";
+    view.icon = "ICO_WARMUP";
+    return view;
+  }
+  if (Responds(knowledge)) {
+    const stmon::Snapshot& latest = *knowledge.latest;
+    view.shortText = Wide(stmon::StatusText(latest));
+    view.detail = WithCrLf(Wide(latest.texts.detail));
+    view.icon = stmon::ExistingIcon(latest.icon);
+    view.others = OtherConditions(latest);
+  } else {
+    const PrnInfoEx record = ShownRecord(knowledge);
+    const stmon::Texts texts = stmon::AskTexts(record, language);
+    view.shortText = Wide(texts.brief);
+    view.detail = WithCrLf(Wide(texts.detail));
+    view.icon = stmon::ExistingIcon(stmon::AskIcon(record));
+  }
+  if (!knowledge.lastGood) return view;
+  const stmon::Snapshot& good = *knowledge.lastGood;
+  for (const stmon::Tray& tray : good.trays)
+    view.trays.push_back(LineOf(tray, good.currentTray == tray.id, language));
+  view.equipment = Equipment(good, language);
+  return view;
+}
+
+std::wstring ConnectionText(const Knowledge& knowledge, std::chrono::system_clock::time_point now) {
+  if (!knowledge.latest) return Wide("Asking " + stmon::CleanUtf8(knowledge.source) + "...");
+  const std::wstring source = Wide(stmon::CleanUtf8(knowledge.source));
+  const stmon::Snapshot& latest = *knowledge.latest;
+  if (latest.told && latest.trouble.empty())
+    return source + L" answered at " + ClockText(latest.when) + L".";
+  std::wstring text =
+      source + L": " + Wide(stmon::CleanUtf8(FirstSentence(latest.trouble))) + L"\n";
+  if (knowledge.lastGood) {
+    const auto when = knowledge.lastGood->when;
+    return text + L"Last answer at " + ClockText(when) + L", " + AgeText(now - when) +
+           L" ago: trays and equipment are of that time.";
+  }
+  return text + L"No answer since " + ClockText(knowledge.since) + L", " +
+         AgeText(now - knowledge.since) + L" ago.";
+}
+
+}  // namespace stmonw

@@ -1,0 +1,47 @@
+// The words that other printer software uses for a status code: the keyword of the IPP attribute
+// printer-state-reasons, the alert of the Printer MIB, and the bits of the Host Resources MIB.
+#pragma once
+
+#include <cstdint>
+#include <string>
+#include <vector>
+
+namespace stmon {
+
+enum class Severity { Report, Warning, Error };
+
+struct Reason {
+  uint32_t code;        // status code
+  const char* keyword;  // without its severity suffix; "none" for a printer without a reason
+  Severity severity;
+  uint32_t alert;      // prtAlertCode, 0 none
+  uint32_t group;      // prtAlertGroup, 0 none
+  uint32_t supply;     // prtMarkerSuppliesType, 0 none
+  uint32_t errorBits;  // hrPrinterDetectedErrorState, the standard's bit n as 1 << n
+};
+
+// Codes that no printer sends.
+constexpr uint32_t kOtherCode = 0xFFFFFFFF;    // a code without a row
+constexpr uint32_t kOfflineCode = 0xFFFFFFFE;  // the printer says that it is offline
+
+// The row of a status code; the service calls 48 to 64 share one, a code without a row gets
+// `other`.
+const Reason& ReasonOf(uint32_t code);
+
+// The rows from the first to the closing one, whose code is kOtherCode.
+const Reason* AllReasons();
+
+// "toner-empty-error"; "none" alone has no suffix.
+std::string Keyword(const Reason& reason);
+
+const char* AlertName(uint32_t alert);
+
+// "cyan" for the toner codes of that colour, else empty.
+const char* TonerColour(uint32_t code);
+
+const char* SeverityWord(Severity severity);
+
+// The names of the set bits: "noPaper", "doorOpen", ...
+std::vector<std::string> ErrorBitNames(uint32_t bits);
+
+}  // namespace stmon

@@ -1,0 +1,41 @@
+// What the library says about a record, in one language, as UTF-8.
+#pragma once
+
+#include <string>
+
+#include "stmdata/stmdata.h"
+#include "words/languages.h"
+
+namespace stmon {
+
+struct Texts {
+  std::string brief;   // "No Paper"; empty where the language has no text
+  std::string detail;  // what to do, in lines without blanks around them
+};
+
+// `dominant` is the deciding status: the flat record's texts of toner statuses are in two code
+// pages.
+Texts AskTexts(const PrnInfoEx& record, const Language& language);
+Texts AskTexts(const PrnInfo& info, const Language& language, uint32_t dominant);
+
+// The name of the icon that shows the record's state: "ICO_ERR_PAPER".
+std::string AskIcon(const PrnInfoEx& record);
+std::string AskIcon(const PrnInfo& info);
+
+// One status alone, as both records would carry it: what the library says about the code itself.
+// The records point into the sample, which therefore stays where it is.
+struct StatusSample {
+  StatusSample(uint32_t code, bool duplex, uint32_t trays = 0);  // trays 1 to 3, filled with A4
+  StatusSample(const StatusSample&) = delete;
+  StatusSample& operator=(const StatusSample&) = delete;
+
+  PrnInfoEx list{};
+  PrnInfo flat{};
+
+ private:
+  StatusNode status{};
+  OptionNode duplexUnit{};
+  TrayNode trayNodes[3]{};
+};
+
+}  // namespace stmon
