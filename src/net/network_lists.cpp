@@ -4,8 +4,8 @@
 #include <type_traits>
 
 #include "net/network_tables.h"
-#include "net/paper_levels.h"
 #include "platform/windows_api.h"
+#include "records/paper_levels.h"
 #include "status/last_error.h"
 #include "stmdata/stmdata.h"
 

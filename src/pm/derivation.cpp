@@ -1,10 +1,10 @@
 #include "pm/derivation.h"
 
-#include "net/paper_levels.h"
-#include "pm/device_table.h"
+#include "names/device_table.h"
+#include "names/font_names.h"
+#include "names/model_names.h"
 #include "pm/name_tables.h"
-#include "records/font_names.h"
-#include "records/model_names.h"
+#include "records/paper_levels.h"
 
 namespace stm {
 namespace {

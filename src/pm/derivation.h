@@ -5,6 +5,7 @@
 #include <cstdint>
 #include <cstring>
 
+#include "records/presence.h"
 #include "stmdata/records.h"
 
 namespace stm {
@@ -15,15 +16,6 @@ inline constexpr char kMaker[] = "ORLEX";
 inline constexpr uint32_t kStatusReady = 0;
 inline constexpr uint32_t kStatusWarmingUp = 17;
 inline constexpr uint32_t kStatusEnergySaver = 18;
-
-// Absent is null or all-ones for pointers, all-ones for numbers.
-inline bool IsPresent(const void* pointer) {
-  return pointer && reinterpret_cast<uintptr_t>(pointer) != STM_ABSENT;
-}
-
-inline bool IsPresent(uint32_t number) {
-  return number != STM_ABSENT;
-}
 
 // Whether the group has a count and an array; the count may be 0.
 inline bool HasItems(const PMItemGroup* group) {

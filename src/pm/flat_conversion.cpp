@@ -3,9 +3,9 @@
 #include <algorithm>
 #include <iterator>
 
-#include "platform/windows_api.h"
+#include "names/device_table.h"
+#include "platform/system_error.h"
 #include "pm/derivation.h"
-#include "pm/device_table.h"
 #include "pm/name_tables.h"
 #include "records/fixed_text.h"
 #include "stmdata/stmdata.h"
@@ -174,10 +174,7 @@ constexpr GroupRow kGroups[] = {
 }  // namespace stm
 
 uint32_t STM_CALL PatSetPMPrnInfoToPrnInfo_0(PrnInfo* info, const PMPrnInfo* pm, uint32_t groups) {
-  if (!info || !pm) {
-    SetLastError(ERROR_INVALID_HANDLE);
-    return 0;
-  }
+  if (!info || !pm) return stm::FailWithSystemError(ERROR_INVALID_HANDLE);
   info->structSize = PrnInfoSize;
   groups = stm::EffectiveGroups(groups);
   uint32_t result = 1;

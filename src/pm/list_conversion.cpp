@@ -1,7 +1,7 @@
 // The print manager's record into the list-based one.
 #include <cstring>
 
-#include "platform/windows_api.h"
+#include "platform/system_error.h"
 #include "pm/derivation.h"
 #include "pm/name_tables.h"
 #include "records/configuration_blocks.h"
@@ -191,10 +191,7 @@ constexpr GroupRow kGroups[] = {
 }  // namespace stm
 
 uint32_t STM_CALL PatSetPMPrnInfoToPrnInfo(PrnInfoEx* info, const PMPrnInfo* pm, uint32_t groups) {
-  if (!info || !pm) {
-    SetLastError(ERROR_INVALID_HANDLE);
-    return 0;
-  }
+  if (!info || !pm) return stm::FailWithSystemError(ERROR_INVALID_HANDLE);
   info->recordTag = PrnInfoExTag;
   info->structSize = PrnInfoExSize;
   groups = stm::EffectiveGroups(groups);

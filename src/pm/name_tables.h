@@ -5,7 +5,7 @@
 #include <cstdint>
 #include <iterator>
 
-#include "records/name_table.h"
+#include "names/name_table.h"
 
 namespace stm {
 

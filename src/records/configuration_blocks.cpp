@@ -2,8 +2,8 @@
 
 #include <cstring>
 
-#include "records/emulation_codes.h"
-#include "records/font_names.h"
+#include "names/emulation_codes.h"
+#include "names/font_names.h"
 #include "records/item_list.h"
 
 namespace stm {

@@ -1,9 +1,9 @@
 // The printer's IEEE 1284 Device ID.
 #include <cstring>
 
-#include "records/emulation_codes.h"
+#include "names/emulation_codes.h"
+#include "names/model_names.h"
 #include "records/item_list.h"
-#include "records/model_names.h"
 #include "records/record.h"
 #include "records/scanners.h"
 #include "stmdata/stmdata.h"

@@ -1,7 +1,7 @@
 // The readback query: which blocks the printer is asked for.
 #include <cstring>
 
-#include "platform/windows_api.h"
+#include "platform/system_error.h"
 #include "stmdata/stmdata.h"
 
 namespace {
@@ -54,22 +54,17 @@ Query BuildQuery(uint32_t groups) {
   return query;
 }
 
-uint32_t FailWith(DWORD systemError) {
-  SetLastError(systemError);
-  return 0;
-}
-
 }  // namespace
 
 uint32_t STM_CALL CreateQueryCommand(uint32_t groups, char* buffer, uint32_t* size) {
-  if (!size) return FailWith(ERROR_INVALID_ADDRESS);
+  if (!size) return stm::FailWithSystemError(ERROR_INVALID_ADDRESS);
   const Query query = BuildQuery(groups);
   const uint32_t capacity = *size;
   if (query.length > capacity) {
     *size = query.length;
-    return FailWith(ERROR_INSUFFICIENT_BUFFER);
+    return stm::FailWithSystemError(ERROR_INSUFFICIENT_BUFFER);
   }
-  if (!buffer) return FailWith(ERROR_INVALID_ADDRESS);
+  if (!buffer) return stm::FailWithSystemError(ERROR_INVALID_ADDRESS);
   std::memcpy(buffer, query.text, query.length);
   if (capacity > query.length) buffer[query.length] = '\0';
   *size = query.length;

@@ -1,7 +1,7 @@
 // Keywords of the readback reply: what the printer writes and the code that the records hold.
 #pragma once
 
-#include "records/name_table.h"
+#include "names/name_table.h"
 
 namespace stm {
 

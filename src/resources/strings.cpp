@@ -4,7 +4,7 @@
 
 #include "platform/string_block.h"
 #include "platform/windows_api.h"
-#include "resources/language.h"
+#include "resources/chosen_language.h"
 #include "resources/module.h"
 
 namespace stm {

@@ -3,7 +3,7 @@
 #include <cstring>
 
 #include "records/item_list.h"
-#include "resources/language.h"
+#include "resources/chosen_language.h"
 #include "resources/strings.h"
 #include "status/dominant_status.h"
 #include "status/last_error.h"

@@ -5,7 +5,7 @@ import pathlib
 import re
 import sys
 
-SRC = ["platform", "records", "resources", "status", "net", "picture", "pm"]
+SRC = ["platform", "resources", "names", "records", "status", "comparison", "net", "picture", "pm"]
 MONITOR = ["system", "words", "wire", "simulator", "picture", "snapshot", "report", "stmon", "stmonw"]
 PROGRAMS = ["stmon", "stmonw"]
 root = pathlib.Path(__file__).resolve().parents[2]

@@ -1,8 +1,8 @@
 #include "records/item_list.h"
 
 #include "doctest/doctest.h"
-#include "records/emulation_codes.h"
-#include "records/font_names.h"
+#include "names/emulation_codes.h"
+#include "names/font_names.h"
 #include "records/record.h"
 #include "records/reply_tables.h"
 #include "support.h"

@@ -2,7 +2,7 @@
 
 #include "doctest/doctest.h"
 #include "platform/string_block.h"
-#include "resources/language.h"
+#include "resources/chosen_language.h"
 #include "support.h"
 #include "thread_language.h"
 

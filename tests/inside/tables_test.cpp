@@ -2,14 +2,14 @@
 // in tables_test.cpp: the names come from the tables, the answers from the look-up.
 #include "checksum.h"
 #include "doctest/doctest.h"
+#include "names/description_names.h"
+#include "names/emulation_codes.h"
+#include "names/font_names.h"
+#include "names/model_names.h"
 #include "net/network_tables.h"
 #include "pm/derivation.h"
-#include "pm/description_names.h"
 #include "pm/name_tables.h"
 #include "print_manager.h"
-#include "records/emulation_codes.h"
-#include "records/font_names.h"
-#include "records/model_names.h"
 #include "records/status_block.h"
 #include "status/dominant_status.h"
 

@@ -5,7 +5,7 @@
 #include <initializer_list>
 #include <span>
 
-#include "platform/linux/language.h"
+#include "platform/linux/environment_language.h"
 #include "platform/windows_api.h"
 
 extern "C" {

@@ -3,7 +3,7 @@
 #include <cstring>
 
 #include "platform/linux/code_pages/code_page.h"
-#include "platform/linux/language.h"
+#include "platform/linux/environment_language.h"
 #include "platform/string_block.h"
 #include "platform/windows_api.h"
 

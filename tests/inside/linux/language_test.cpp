@@ -1,11 +1,11 @@
-#include "platform/linux/language.h"
+#include "platform/linux/environment_language.h"
 
 #include <cstdlib>
 #include <string>
 
 #include "checksum.h"
 #include "doctest/doctest.h"
-#include "resources/language.h"
+#include "resources/chosen_language.h"
 #include "resources/strings.h"
 
 TEST_CASE("a locale's name tells the language") {

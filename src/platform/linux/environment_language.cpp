@@ -1,4 +1,4 @@
-#include "platform/linux/language.h"
+#include "platform/linux/environment_language.h"
 
 #include <cstdlib>
 #include <cstring>

@@ -1,7 +1,7 @@
 // Resident fonts: the names that the printer and the print manager give them.
 #pragma once
 
-#include "records/name_table.h"
+#include "names/name_table.h"
 
 namespace stm {
 

@@ -1,7 +1,7 @@
 // The maker's product line: model names and their model codes.
 #pragma once
 
-#include "records/name_table.h"
+#include "names/name_table.h"
 #include "stmdata/records.h"
 
 namespace stm {

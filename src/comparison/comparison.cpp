@@ -2,8 +2,8 @@
 #include <algorithm>
 #include <cstring>
 
-#include "platform/windows_api.h"
-#include "pm/derivation.h"
+#include "platform/system_error.h"
+#include "records/presence.h"
 #include "status/dominant_status.h"
 #include "stmdata/stmdata.h"
 
@@ -137,15 +137,8 @@ bool RecordsAgree(const PrnInfoEx& first, const PrnInfoEx& second, uint32_t grou
 
 uint32_t STM_CALL PatCmpPrnInfoEX(const PrnInfoEx* first, const PrnInfoEx* second, uint32_t groups,
                                   uint32_t* equal) {
-  if (!first || !second) {
-    SetLastError(ERROR_INVALID_HANDLE);
-    return 0;
-  }
-  // A verdict without a place for it is refused like any other missing buffer.
-  if (!equal) {
-    SetLastError(ERROR_INVALID_ADDRESS);
-    return 0;
-  }
+  if (!first || !second) return stm::FailWithSystemError(ERROR_INVALID_HANDLE);
+  if (!equal) return stm::FailWithSystemError(ERROR_INVALID_ADDRESS);
   *equal = stm::RecordsAgree(*first, *second, groups);
   return 1;
 }

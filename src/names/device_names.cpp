@@ -1,7 +1,7 @@
 // Display names of installed devices.
 #include <cstring>
 
-#include "pm/device_table.h"
+#include "names/device_table.h"
 #include "resources/strings.h"
 #include "stmdata/stmdata.h"
 

@@ -5,7 +5,7 @@
 #include <iterator>
 #include <string_view>
 
-#include "records/model_names.h"
+#include "names/model_names.h"
 #include "stmdata/records.h"
 
 namespace stm {

@@ -1,4 +1,4 @@
-#include "resources/language.h"
+#include "resources/chosen_language.h"
 
 #include <atomic>
 #include <cstdlib>

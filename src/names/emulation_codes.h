@@ -1,7 +1,7 @@
 // Printer languages: the codes that the printer writes in its replies and in its Device ID.
 #pragma once
 
-#include "records/name_table.h"
+#include "names/name_table.h"
 
 namespace stm {
 
