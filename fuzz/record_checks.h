@@ -55,9 +55,14 @@ inline void CheckRecord(const PrnInfoEx& record) {
   Require(record.online <= 1 && record.hasError <= 1);
 }
 
+// The input as a reply: it has a readable byte even when its length is 0.
+inline const char* ReplyOf(const uint8_t* data, size_t size) {
+  return size > 0 ? reinterpret_cast<const char*>(data) : "";
+}
+
 // A reply is walked when it begins with an escape and a letter; the byte 0xFF counts as none.
 inline bool IsWalked(const uint8_t* reply, size_t size) {
-  return size == 0 || (reply[0] == 0x1B && !(size > 1 && reply[1] == 0xFF));
+  return size > 0 && reply[0] == 0x1B && !(size > 1 && reply[1] == 0xFF);
 }
 
 constexpr uint8_t kPoison = 0xA5;

@@ -3,7 +3,7 @@
 
 extern "C" int LLVMFuzzerTestOneInput(const uint8_t* data, size_t size) {
   PrnInfoEx record{};
-  const auto* reply = reinterpret_cast<const char*>(data);
+  const auto* reply = fuzz::ReplyOf(data, size);
   const uint32_t result = SetPrnInfoExFromReadbackCmd(&record, reply, static_cast<int32_t>(size));
   fuzz::Require(result == fuzz::IsWalked(data, size));
   fuzz::CheckRecord(record);

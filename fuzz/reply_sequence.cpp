@@ -9,7 +9,7 @@ extern "C" int LLVMFuzzerTestOneInput(const uint8_t* data, size_t size) {
     const uint8_t* stop = mark ? mark : end;
     const auto length = static_cast<size_t>(stop - data);
     // A block of its own, so that a read past this reply is a read past its memory.
-    auto* reply = static_cast<char*>(std::malloc(length ? length : 1));
+    auto* reply = static_cast<char*>(std::calloc(length ? length : 1, 1));
     std::memcpy(reply, data, length);
     SetPrnInfoExFromReadbackCmd(&record, reply, static_cast<int32_t>(length));
     std::free(reply);

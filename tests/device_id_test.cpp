@@ -98,9 +98,10 @@ TEST_CASE("a Device ID may be the record's own string") {
   CHECK(std::string(record.manufacturer) == "ORLEX");
 }
 
-TEST_CASE("a Device ID call without a record or a string is refused") {
+TEST_CASE("a missing Device ID counts as an empty one; a missing record is refused") {
   test::Record record;
-  CHECK(SetModelInfoExFromDeviceID(&record, nullptr, 5) == 0);
-  CHECK(test::Describe(record) == "");
+  CHECK(SetModelInfoExFromDeviceID(&record, nullptr, 5) == 1);
+  CHECK(test::Describe(record) == "tag=404 size=112");
   CHECK(SetModelInfoExFromDeviceID(nullptr, "MFG:A;", 6) == 0);
+  CHECK(SetModelInfoExFromDeviceID(nullptr, nullptr, 0) == 0);
 }

@@ -149,6 +149,7 @@ TEST_CASE("a reply that is cut off tells the flat record what its whole blocks s
   for (const FlatCase& row : kReplies) {
     CAPTURE(row.why);
     test::ForEveryCut(row.input, [](test::GuardedBytes& cut) {
+      if (cut.size() == 0) return;  // a reply has a readable byte
       CAPTURE(cut.size());
       const std::string_view whole = test::WholeBlocks({cut.data(), size_t(cut.size())});
       PrnInfo record = Poisoned();
@@ -202,12 +203,23 @@ TEST_CASE("a flat record is left alone by a call that fails") {
   PrnInfo record = Poisoned();
   const PrnInfo before = Poisoned();
   CHECK(SetPrnInfoFromReadbackCmd(&record, "x\x1BM\r1\n", 6) == 0);
+  CHECK(SetPrnInfoFromReadbackCmd(&record, "M\r1\n", 0) == 0);
+  CHECK(SetPrnInfoFromReadbackCmd(&record, "", 0) == 0);
   CHECK(SetPrnInfoFromReadbackCmd(&record, nullptr, 6) == 0);
   CHECK(SetPrnInfoFromReadbackCmd(&record, "\x1BM\r1\n", INT32_MIN) == 1);
-  CHECK(SetModelInfoFromDeviceID(&record, nullptr, 6) == 0);
   CHECK(Difference(record, before) == sizeof record);
   CHECK(SetPrnInfoFromReadbackCmd(nullptr, "\x1BM\r1\n", 5) == 0);
   CHECK(SetModelInfoFromDeviceID(nullptr, "MFG:A;", 6) == 0);
+}
+
+TEST_CASE("a missing Device ID counts as an empty one") {
+  for (const char* deviceId : {static_cast<const char*>(nullptr), ""}) {
+    PrnInfo record = Poisoned();
+    PrnInfo expected = Poisoned();
+    expected.modelCode = 0;
+    CHECK(SetModelInfoFromDeviceID(&record, deviceId, deviceId ? 0 : 6) == 1);
+    CHECK(Difference(record, expected) == sizeof record);
+  }
 }
 
 TEST_CASE("options are not taken back from the fields that say so") {

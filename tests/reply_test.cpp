@@ -231,6 +231,7 @@ TEST_CASE("a reply that is cut off says what its whole blocks say, and nothing p
   for (const ReplyCase& row : kReplies) {
     for (const std::string& reply : row.replies) {
       test::ForEveryCut(reply, [&](test::GuardedBytes& cut) {
+        if (cut.size() == 0) return;  // a reply has a readable byte
         CAPTURE(row.why);
         CAPTURE(cut.size());
         const std::string_view whole = test::WholeBlocks({cut.data(), size_t(cut.size())});
@@ -289,10 +290,16 @@ TEST_CASE("a call that cannot walk leaves the record alone") {
   test::Record record;
   test::Parse(record, kReplies[0].replies[0]);
   const std::string before = test::Describe(record);
-  CHECK(test::Parse(record, "") == 1);
   CHECK(test::Parse(record, " \x1BL\r1\r1\n") == 0);
-  CHECK(SetPrnInfoExFromReadbackCmd(&record, "\x1BL\r1\r1\n", -1) == 1);
-  CHECK(SetPrnInfoExFromReadbackCmd(&record, "\x1BL\r1\r1\n", INT32_MIN) == 1);
+  for (int32_t length : {0, -1, INT32_MIN}) {
+    // The first byte decides even then, and no byte after it is read.
+    test::GuardedBytes escape("\x1B");
+    test::GuardedBytes other("L");
+    CHECK(SetPrnInfoExFromReadbackCmd(&record, escape.data(), length) == 1);
+    CHECK(SetPrnInfoExFromReadbackCmd(&record, "\x1BL\r1\r1\n", length) == 1);
+    CHECK(SetPrnInfoExFromReadbackCmd(&record, other.data(), length) == 0);
+    CHECK(SetPrnInfoExFromReadbackCmd(&record, "", length) == 0);
+  }
   CHECK(SetPrnInfoExFromReadbackCmd(&record, nullptr, 9) == 0);
   CHECK(SetPrnInfoExFromReadbackCmd(nullptr, "\x1BL\r1\r1\n", 7) == 0);
   CHECK(test::Describe(record) == before);

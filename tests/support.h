@@ -74,7 +74,9 @@ struct Record : PrnInfoEx {
   ~Record() { ReleasePrnInfoEx(this); }
 };
 
+// An empty reply is no reply.
 inline uint32_t Parse(Record& record, std::string_view reply) {
+  if (reply.empty()) return SetPrnInfoExFromReadbackCmd(&record, "", 0);
   GuardedBytes bytes(reply);
   return SetPrnInfoExFromReadbackCmd(&record, bytes.data(), bytes.size());
 }

@@ -74,11 +74,14 @@ STM_API HICON STM_CALL PatLoadIcon(const char* name);
 STM_API uint32_t STM_CALL CreateQueryCommand(uint32_t groups, char* buffer, uint32_t* size);
 
 /* Updates `record` from the printer's readback reply, block by block.
-   record  the caller's, zero-filled before its first use; lists are reused when the number of
-           entries is unchanged, else rebuilt; fields that the reply does not carry stay
-   reply   `length` bytes; none past them is read. The walk ends at the length, at a zero byte where
-           a block should begin, at an unknown letter, and at a block that the reply cuts off
-   length  bytes; 0 or less reads nothing
+   record  the caller's, zero-filled before its first use; what the reply does not carry stays. The
+           lists of S, T, Z and L blocks are reused when the number of entries is unchanged, else
+           rebuilt; those of F and D blocks are written anew
+   reply   `length` bytes; none past them is read, but the first one in any case. The walk ends at
+           the length, at a byte other than ESC where a block should begin, at an unknown letter,
+           and at a block that the reply cuts off. A block counts as cut off when its end is missing
+           and fewer than 255 bytes are left (256 of an S block); of a longer one as many are read
+   length  bytes; of 0 or less nothing but the first byte is read
    Result  1 walked, also for a length of 0 or less; 0 null record or reply, or the reply does not
            begin with ESC (the record is untouched).
    A block's list that cannot be allocated becomes empty. A version text that the record holds
@@ -106,16 +109,16 @@ STM_API uint32_t STM_CALL SetPrnInfoFromReadbackCmd(PrnInfo* record, const char*
              lacks stay. A string that cannot be allocated becomes null
    deviceId  fields ended by ";", without the two length bytes of the wire. Keys count in upper case
              at the beginning of a field; a field is cut at 255 bytes. A last MDL, DES or CMD field
-             without ";" loses its last character
+             without ";" loses its last character. Null counts as an empty string
    length    bytes; the string also ends at its first zero byte
-   Result    1 read, 0 null record or string */
+   Result    1 read, 0 null record */
 STM_API uint32_t STM_CALL SetModelInfoExFromDeviceID(ModelInfoEx* record, const char* deviceId,
                                                      uint32_t length);
 
 /* Fills `modelName`, `manufacturer` (cut at 15 characters), `description`, `modelCode`,
    `emulationList` (the first 32) and `emulationCount` of the flat `record`; arguments as above.
    Fields of keys that the string lacks stay, but `modelCode` becomes 0 without MDL and DES.
-   Result  1 read; 0 null record or string, or no memory (the record is untouched) */
+   Result  1 read; 0 null record, or no memory (the record is untouched) */
 STM_API uint32_t STM_CALL SetModelInfoFromDeviceID(PrnInfo* record, const char* deviceId,
                                                    uint32_t length);
 

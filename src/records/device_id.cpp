@@ -112,12 +112,11 @@ Input DeviceIdOf(const char* text, uint32_t length) {
   return {text, zero ? zero : text + length};
 }
 
-uint32_t ReadDeviceId(Filling to, const char* deviceId, uint32_t length) {
-  if (!to.record || !deviceId) return 0;
+// A missing string is an empty one.
+void ReadDeviceId(Filling to, const char* deviceId, uint32_t length) {
   to.record->recordTag = PrnInfoExTag;
   to.record->structSize = PrnInfoExSize;
-  WalkDeviceId(DeviceIdOf(deviceId, length), to);
-  return 1;
+  if (deviceId) WalkDeviceId(DeviceIdOf(deviceId, length), to);
 }
 
 }  // namespace
@@ -125,16 +124,17 @@ uint32_t ReadDeviceId(Filling to, const char* deviceId, uint32_t length) {
 
 uint32_t STM_CALL SetModelInfoExFromDeviceID(ModelInfoEx* record, const char* deviceId,
                                              uint32_t length) {
-  return stm::ReadDeviceId({record, nullptr}, deviceId, length);
+  if (!record) return 0;
+  stm::ReadDeviceId({record, nullptr}, deviceId, length);
+  return 1;
 }
 
 uint32_t STM_CALL SetModelInfoFromDeviceID(PrnInfo* record, const char* deviceId, uint32_t length) {
   if (!record) return 0;
   stm::TemporaryRecord* temporary = stm::NewPrnInfoEx();
   if (!temporary) return 0;
-  const uint32_t result =
-      stm::ReadDeviceId({&temporary->record, &temporary->room}, deviceId, length);
-  if (result) stm::ConvertToPrnInfo(temporary->record, record, GroupDeviceId);
+  stm::ReadDeviceId({&temporary->record, &temporary->room}, deviceId, length);
+  stm::ConvertToPrnInfo(temporary->record, record, GroupDeviceId);
   stm::FreePrnInfoEx(temporary);
-  return result;
+  return 1;
 }

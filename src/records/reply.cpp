@@ -1,5 +1,7 @@
 #include "records/reply.h"
 
+#include <algorithm>
+
 #include "records/configuration_blocks.h"
 #include "records/letter_index.h"
 #include "records/option_blocks.h"
@@ -60,8 +62,8 @@ uint32_t WalkReply(Input rest, Filling to) {
 
 ReplyResult ReadReply(Filling to, const char* reply, int32_t length) {
   if (!to.record || !reply) return {0, 0};
-  if (length <= 0) return {1, 0};
-  const Input input{reply, reply + length};
+  // Whether it is a reply tells its first byte, which is there whatever the length says.
+  const Input input{reply, reply + std::max(length, 1)};
   if (BlockLetter(input) == -1) return {0, 0};
   return {1, WalkReply(input, to)};
 }

@@ -12,7 +12,8 @@ TEST_CASE("a walk gives the group bits of the blocks that it dispatched") {
   } const rows[] = {
       {"status and trays", "\x1BS\r0\r0\r1\r1\n\x1BT\r1\r5\n\x1B ", 1, 0x8000A},
       {"the end marker alone", "\x1B ", 1, 0},
-      {"no bytes", "", 1, 0},
+      {"no bytes", "", 0, 0},
+      {"the first byte of a reply", "\x1B", 1, 0},
       {"no block at the start", "S\r0\r0\r1\r1\n", 0, 0},
       {"levels and bins", "\x1BZ\r1\r5\n\x1BL\r1\r0\n", 1, 0x18},
       {"an unknown letter ends the walk", "\x1BS\r0\r0\r1\r1\n\x1BH\n\x1BT\r1\r5\n", 1, 0x80002},
