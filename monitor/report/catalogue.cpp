@@ -1,22 +1,16 @@
 #include "report/catalogue.h"
 
-#include "nlohmann/json.hpp"
-#include "words/reasons.h"
-#include "words/texts.h"
+#include "report/json.h"
 
 namespace stmon {
 namespace {
 
 constexpr uint32_t kHighestCode = 999;  // 1000 closes the library's table
 
-struct Variants {
-  Texts list, listDuplex, flat, flatDuplex;
-};
-
-Variants AskAll(uint32_t code, const Language& language) {
+StatusWords AskWords(uint32_t code, const Language& language) {
   const StatusSample plain(code, false);
   const StatusSample duplex(code, true);
-  return {AskTexts(plain.list, language), AskTexts(duplex.list, language),
+  return {&language, AskTexts(plain.list, language), AskTexts(duplex.list, language),
           AskTexts(plain.flat, language, code), AskTexts(duplex.flat, language, code)};
 }
 
@@ -37,71 +31,60 @@ void AddTexts(std::string& report, const char* label, const Texts& texts) {
   }
 }
 
-void AddLanguage(std::string& report, uint32_t code, const Language& language) {
-  const Variants texts = AskAll(code, language);
-  const std::string name = language.code;
-  AddTexts(report, (name + "              ").c_str(), texts.list);
-  if (!Same(texts.listDuplex, texts.list))
-    AddTexts(report, (name + " duplex unit  ").c_str(), texts.listDuplex);
-  if (!Same(texts.flat, texts.list))
-    AddTexts(report, (name + " flat record  ").c_str(), texts.flat);
-  if (!Same(texts.flatDuplex, texts.flat))
-    AddTexts(report, (name + " flat, duplex ").c_str(), texts.flatDuplex);
-}
-
-nlohmann::ordered_json TextsJson(const Texts& texts) {
-  return {{"short", texts.brief}, {"detail", texts.detail}};
-}
-
-StatusRow RowOf(uint32_t code) {
-  PrnInfo info{};
-  info.statusCode = code;
-  StatusRow row{};
-  PatGetPrinterStatus(&info, &row);
-  return row;
+void AddWords(std::string& report, const StatusWords& words) {
+  const std::string name = words.language->code;
+  AddTexts(report, (name + "              ").c_str(), words.list);
+  if (!Same(words.listDuplex, words.list))
+    AddTexts(report, (name + " duplex unit  ").c_str(), words.listDuplex);
+  if (!Same(words.flat, words.list))
+    AddTexts(report, (name + " flat record  ").c_str(), words.flat);
+  if (!Same(words.flatDuplex, words.flat))
+    AddTexts(report, (name + " flat, duplex ").c_str(), words.flatDuplex);
 }
 
 }  // namespace
 
-std::vector<uint32_t> KnownCodes() {
-  std::vector<uint32_t> codes;
+std::vector<CatalogueEntry> AskCatalogue(const Language* only) {
+  std::vector<CatalogueEntry> catalogue;
   for (uint32_t code = 0; code <= kHighestCode; ++code) {
-    PrnInfo info{};
-    info.statusCode = code;
     StatusRow row{};
-    if (PatGetPrinterStatus(&info, &row) == 1) codes.push_back(code);
+    if (!AskRow(code, row)) continue;
+    const StatusSample sample(code, false);
+    CatalogueEntry& entry = catalogue.emplace_back();
+    entry.code = code;
+    entry.level = row.level;
+    entry.reason = &ReasonOf(code);
+    entry.icon = AskIcon(sample.list);
+    for (const Language* language = kLanguages; language->code; ++language) {
+      if (!only || only == language) entry.words.push_back(AskWords(code, *language));
+    }
   }
-  return codes;
+  return catalogue;
 }
 
-std::string CatalogueText(const Language* only) {
+std::string CatalogueText(const std::vector<CatalogueEntry>& catalogue) {
   std::string report;
-  for (const uint32_t code : KnownCodes()) {
-    const StatusSample sample(code, false);
-    report += std::to_string(code) + "  level " + std::to_string(RowOf(code).level) + "  " +
-              Keyword(ReasonOf(code)) + "  " + AskIcon(sample.list) + "\n";
-    for (const Language* language = kLanguages; language->code; ++language) {
-      if (!only || only == language) AddLanguage(report, code, *language);
-    }
+  for (const CatalogueEntry& entry : catalogue) {
+    report += std::to_string(entry.code) + "  level " + std::to_string(entry.level) + "  " +
+              Keyword(*entry.reason) + "  " + entry.icon + "\n";
+    for (const StatusWords& words : entry.words)
+      AddWords(report, words);
   }
   return report;
 }
 
-std::string CatalogueJson(const Language* only) {
+std::string CatalogueJson(const std::vector<CatalogueEntry>& catalogue) {
   std::string report;
-  for (const uint32_t code : KnownCodes()) {
-    const StatusSample sample(code, false);
-    nlohmann::ordered_json json{{"code", code},
-                                {"level", RowOf(code).level},
-                                {"reason", Keyword(ReasonOf(code))},
-                                {"icon", AskIcon(sample.list)}};
-    for (const Language* language = kLanguages; language->code; ++language) {
-      if (only && only != language) continue;
-      const Variants texts = AskAll(code, *language);
-      json["texts"][language->code] = {{"list", TextsJson(texts.list)},
-                                       {"list_duplex", TextsJson(texts.listDuplex)},
-                                       {"flat", TextsJson(texts.flat)},
-                                       {"flat_duplex", TextsJson(texts.flatDuplex)}};
+  for (const CatalogueEntry& entry : catalogue) {
+    Json json{{"code", entry.code},
+              {"level", entry.level},
+              {"reason", Keyword(*entry.reason)},
+              {"icon", entry.icon}};
+    for (const StatusWords& words : entry.words) {
+      json["texts"][words.language->code] = {{"list", TextsJson(words.list)},
+                                             {"list_duplex", TextsJson(words.listDuplex)},
+                                             {"flat", TextsJson(words.flat)},
+                                             {"flat_duplex", TextsJson(words.flatDuplex)}};
     }
     report += json.dump() + "\n";
   }

@@ -2,17 +2,13 @@
 
 #include <map>
 
-#include "nlohmann/json.hpp"
 #include "picture/picture.h"
 #include "report/catalogue.h"
+#include "report/json.h"
 #include "system/files.h"
-#include "words/reasons.h"
-#include "words/texts.h"
 
 namespace stmon {
 namespace {
-
-using Json = nlohmann::ordered_json;
 
 struct Build {
   const char* name;  // of the files, behind the status code
@@ -43,21 +39,28 @@ std::string Base64(const std::string& bytes) {
   return text;
 }
 
-// Many statuses share a picture; the page carries each once.
-struct Images {
-  std::map<std::string, size_t> numbers;
-  Json data = Json::array();
+// What has been written so far. Many statuses share a picture; the page carries each once.
+struct Gallery {
+  std::string folder;
+  std::map<std::string, size_t> numbers;  // of the images by their PNG
+  Json images = Json::array();
+  std::string trouble;  // the first; nothing is written after it
 };
 
-size_t NumberOf(Images& images, const std::string& png) {
-  const auto [place, added] = images.numbers.try_emplace(png, images.data.size());
-  if (added) images.data.push_back("data:image/png;base64," + Base64(png));
-  return place->second;
+void Write(Gallery& gallery, const std::string& name, const std::string& bytes) {
+  if (!gallery.trouble.empty()) return;
+  const std::string file = gallery.folder + "/" + name;
+  const std::string trouble = WriteWholeFile(file, bytes);
+  if (!trouble.empty()) gallery.trouble = file + ": " + trouble;
 }
 
-std::string WriteImage(const std::string& file, const std::string& png) {
-  const std::string trouble = WriteWholeFile(file, png);
-  return trouble.empty() ? "" : file + ": " + trouble;
+// Result: the image's number in the page.
+size_t AddImage(Gallery& gallery, const std::string& name, const Image& image) {
+  const std::string png = EncodePng(image);
+  Write(gallery, name + ".png", png);
+  const auto [place, added] = gallery.numbers.try_emplace(png, gallery.images.size());
+  if (added) gallery.images.push_back("data:image/png;base64," + Base64(png));
+  return place->second;
 }
 
 std::string FileStem(uint32_t code) {
@@ -111,15 +114,24 @@ show();
 </script></body></html>
 )";
 
-Json StateTexts(uint32_t code) {
+Json StateTexts(const CatalogueEntry& entry) {
   Json texts;
-  const StatusSample plain(code, false);
-  const StatusSample duplex(code, true);
-  for (const Language* language = kLanguages; language->code; ++language) {
-    const Texts alone = AskTexts(plain.list, *language);
-    texts[language->code] = {alone.brief, alone.detail, AskTexts(duplex.list, *language).detail};
-  }
+  for (const StatusWords& words : entry.words)
+    texts[words.language->code] = {words.list.brief, words.list.detail, words.listDuplex.detail};
   return texts;
+}
+
+Json StateJson(Gallery& gallery, const CatalogueEntry& entry) {
+  Json state{{"code", entry.code}, {"reason", Keyword(*entry.reason)}, {"icon", nullptr}};
+  for (const Build& build : kBuilds) {
+    const StatusSample sample(entry.code, build.duplex, build.trays);
+    state["pictures"].push_back(AddImage(gallery, "pictures/" + FileStem(entry.code) + build.name,
+                                         DrawPicture(sample.list)));
+  }
+  if (const Image icon = DrawIcon(entry.icon); !icon.pixels.empty())
+    state["icon"] = AddImage(gallery, "icons/" + entry.icon, icon);
+  state["texts"] = StateTexts(entry);
+  return state;
 }
 
 }  // namespace
@@ -129,38 +141,21 @@ std::string WriteGallery(const std::string& folder, void (*progress)(const std::
     const std::string trouble = MakeFolder(folder + part);
     if (!trouble.empty()) return folder + part + ": " + trouble;
   }
-  Images images;
+  Gallery gallery{folder, {}, Json::array(), ""};
   Json page;
   for (const Language* language = kLanguages; language->code; ++language)
     page["languages"].push_back({language->code, language->name});
-  const auto codes = KnownCodes();
-  for (size_t i = 0; i < codes.size(); ++i) {
-    const uint32_t code = codes[i];
-    Json state{{"code", code}, {"reason", Keyword(ReasonOf(code))}, {"icon", nullptr}};
-    for (const Build& build : kBuilds) {
-      const StatusSample sample(code, build.duplex, build.trays);
-      const std::string png = EncodePng(DrawPicture(sample.list));
-      const std::string wrong =
-          WriteImage(folder + "/pictures/" + FileStem(code) + build.name + ".png", png);
-      if (!wrong.empty()) return wrong;
-      state["pictures"].push_back(NumberOf(images, png));
-    }
-    const std::string icon = AskIcon(StatusSample(code, false).list);
-    if (const Image image = DrawIcon(icon); !image.pixels.empty()) {
-      const std::string png = EncodePng(image);
-      const std::string wrong = WriteImage(folder + "/icons/" + icon + ".png", png);
-      if (!wrong.empty()) return wrong;
-      state["icon"] = NumberOf(images, png);
-    }
-    state["texts"] = StateTexts(code);
-    page["states"].push_back(std::move(state));
-    if (i % 10 == 9 || i + 1 == codes.size())
-      progress(std::to_string(i + 1) + " of " + std::to_string(codes.size()) + " states");
+  const auto catalogue = AskCatalogue(nullptr);
+  size_t done = 0;
+  for (const CatalogueEntry& entry : catalogue) {
+    page["states"].push_back(StateJson(gallery, entry));
+    if (!gallery.trouble.empty()) return gallery.trouble;
+    if (++done % 10 == 0 || done == catalogue.size())
+      progress(std::to_string(done) + " of " + std::to_string(catalogue.size()) + " states");
   }
-  page["images"] = std::move(images.data);
-  const std::string trouble =
-      WriteWholeFile(folder + "/index.html", kPageHead + page.dump() + kPageTail);
-  return trouble.empty() ? "" : folder + "/index.html: " + trouble;
+  page["images"] = std::move(gallery.images);
+  Write(gallery, "index.html", kPageHead + page.dump() + kPageTail);
+  return gallery.trouble;
 }
 
 }  // namespace stmon

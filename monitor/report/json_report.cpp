@@ -1,15 +1,12 @@
-#include <algorithm>
-
-#include "nlohmann/json.hpp"
+#include "report/json.h"
 #include "report/reports.h"
+#include "snapshot/outcome.h"
 #include "words/clock.h"
 #include "words/labels.h"
 #include "words/safe_text.h"
 
 namespace stmon {
 namespace {
-
-using Json = nlohmann::ordered_json;
 
 Json AlertJson(const Reason& reason) {
   Json json{{"code", reason.alert}, {"name", AlertName(reason.alert)}, {"group", reason.group}};
@@ -19,15 +16,11 @@ Json AlertJson(const Reason& reason) {
   return json;
 }
 
-Json TextsJson(const Texts& texts) {
-  return {{"short", texts.brief}, {"detail", texts.detail}};
-}
-
-Json ConditionJson(const Condition& condition, bool dominant) {
+Json ConditionJson(const Condition& condition) {
   const Reason& reason = *condition.reason;
   Json json{{"code", condition.code},
             {"known", condition.known},
-            {"dominant", dominant},
+            {"dominant", condition.dominant},
             {"rank", condition.rank}};
   json["texts"] = TextsJson(condition.texts);
   if (condition.known) json["level"] = condition.row.level;
@@ -39,23 +32,9 @@ Json ConditionJson(const Condition& condition, bool dominant) {
   return json;
 }
 
-// "stopped" when something keeps the printer from printing, as printer-state has it.
-const char* StateWord(const Snapshot& snapshot) {
-  for (const Condition& condition : snapshot.conditions) {
-    if (condition.reason->severity == Severity::Error) return "stopped";
-  }
-  if (!snapshot.online) return "stopped";
-  return snapshot.dominant == std::vector<uint32_t>{StatusPrinting} ? "processing" : "idle";
-}
-
-bool IsDominant(const Snapshot& snapshot, uint32_t code) {
-  return std::find(snapshot.dominant.begin(), snapshot.dominant.end(), code) !=
-         snapshot.dominant.end();
-}
-
 Json TrayJson(const Tray& tray) {
   Json json{{"id", tray.id}, {"name", TrayLabel(tray.id)}, {"paper_code", tray.paper}};
-  if (tray.paper != 0) json["paper"] = PaperLabel(tray.paper);
+  if (tray.paper != 0) json["paper"] = tray.paperName;
   if (tray.level) json["level"] = *tray.level;
   return json;
 }
@@ -81,31 +60,19 @@ Json IdentityJson(const Identity& identity) {
   return json;
 }
 
-std::string WhyText(const Snapshot& snapshot) {
-  if (snapshot.dominant.empty()) return "no condition is reported";
-  const uint32_t code = snapshot.dominant[0];
-  const bool known = std::any_of(
-      snapshot.conditions.begin(), snapshot.conditions.end(),
-      [&](const Condition& condition) { return condition.code == code && condition.known; });
-  if (!known) return "no reported code is known; the first one stands for the printer";
-  if (snapshot.dominant.size() > 1) return "these codes share the most important rank";
-  return snapshot.conditions.size() > 1 ? "the most important of the reported codes"
-                                        : "the only reported code";
-}
-
 void AddState(Json& json, const Snapshot& snapshot) {
   json["online"] = snapshot.online;
-  json["printer_state"] = StateWord(snapshot);
-  json["printer_state_reasons"] = StateReasons(snapshot);
+  json["printer_state"] = StateWord(snapshot.conditions, snapshot.online);
+  json["printer_state_reasons"] = StateReasons(snapshot.conditions, snapshot.online);
   json["language"] = snapshot.source.language->code;
-  json["status"] = StatusText(snapshot);
+  json["status"] = snapshot.headline;
   json["texts"] = TextsJson(snapshot.texts);
   json["icon"] = snapshot.icon;
-  json["dominant"] = snapshot.dominant;
-  json["why"] = WhyText(snapshot);
+  json["dominant"] = DominantCodes(snapshot.conditions);
+  json["why"] = WhyText(snapshot.conditions);
   json["conditions"] = Json::array();
   for (const Condition& condition : snapshot.conditions)
-    json["conditions"].push_back(ConditionJson(condition, IsDominant(snapshot, condition.code)));
+    json["conditions"].push_back(ConditionJson(condition));
   if (snapshot.currentTray) json["tray_in_use"] = *snapshot.currentTray;
   if (snapshot.currentBin) json["bin_in_use"] = *snapshot.currentBin;
   for (const Tray& tray : snapshot.trays)
@@ -131,7 +98,7 @@ void AddEquipment(Json& json, const Snapshot& snapshot) {
 
 }  // namespace
 
-std::string JsonReport(const Snapshot& snapshot, bool all_languages) {
+std::string JsonReport(const Snapshot& snapshot) {
   Json json;
   if (!snapshot.source.name.empty()) json["source"] = CleanUtf8(snapshot.source.name);
   json["time"] = UtcText(snapshot.when);
@@ -143,10 +110,8 @@ std::string JsonReport(const Snapshot& snapshot, bool all_languages) {
   if (snapshot.told) {
     json["record"] = snapshot.source.kind == RecordKind::Flat ? "flat" : "list";
     AddState(json, snapshot);
-    if (all_languages) {
-      for (const Language* language = kLanguages; language->code; ++language)
-        json["all_texts"][language->code] = TextsJson(TextsIn(snapshot, *language));
-    }
+    for (size_t i = 0; i < snapshot.allTexts.size(); ++i)
+      json["all_texts"][kLanguages[i].code] = TextsJson(snapshot.allTexts[i]);
     AddEquipment(json, snapshot);
   }
   return json.dump() + "\n";

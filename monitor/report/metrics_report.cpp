@@ -72,10 +72,9 @@ void AddTrays(Writer& writer, const Snapshot& snapshot) {
 
 }  // namespace
 
-std::string MetricsReport(const Snapshot& snapshot,
-                          std::optional<std::chrono::system_clock::time_point> last_answer) {
+std::string MetricsReport(const Snapshot& snapshot, const LastAnswer& last_answer) {
   Writer writer{"", "printer=\"" + LabelValue(snapshot.source.name) + "\""};
-  const bool up = snapshot.told && snapshot.exchange.outcome == Outcome::Answered;
+  const bool up = IsGood(snapshot);
   Single(writer, "stmon_up", "1 when the printer answered the latest poll.", up ? "1" : "0");
   Single(writer, "stmon_verdict",
          "0 fine, 1 needs attention soon, 2 cannot print, 3 unknown or no response.",

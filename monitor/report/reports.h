@@ -10,14 +10,15 @@
 
 namespace stmon {
 
-// `all_languages`: the state's texts in every language of the library as well.
-std::string TextReport(const Snapshot& snapshot, bool all_languages = false);
-std::string JsonReport(const Snapshot& snapshot, bool all_languages = false);
+std::string TextReport(const Snapshot& snapshot);
+std::string JsonReport(const Snapshot& snapshot);
 std::string RawReport(const Snapshot& snapshot);
+
+// When the printer last gave a good answer, if it ever did.
+using LastAnswer = std::optional<std::chrono::system_clock::time_point>;
 
 // Prometheus text. Nothing but the time of the last good answer is told of a printer that does not
 // answer: a series that ends is better than one that is no longer true.
-std::string MetricsReport(const Snapshot& snapshot,
-                          std::optional<std::chrono::system_clock::time_point> last_answer);
+std::string MetricsReport(const Snapshot& snapshot, const LastAnswer& last_answer);
 
 }  // namespace stmon

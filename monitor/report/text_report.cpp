@@ -21,7 +21,7 @@ std::string Padded(std::string text, size_t width) {
 }
 
 std::string TrayText(const Tray& tray, bool in_use) {
-  std::string text = Padded(TrayLabel(tray.id), 20) + Padded(PaperLabel(tray.paper), 16);
+  std::string text = Padded(TrayLabel(tray.id), 20) + Padded(tray.paperName, 16);
   if (tray.level) text += "level " + std::to_string(*tray.level);
   if (in_use) text = Padded(text, 48) + "in use";
   text.resize(text.find_last_not_of(' ') + 1);
@@ -65,11 +65,12 @@ void AddLines(std::string& report, std::string_view label, std::string_view text
   }
 }
 
-void AddLanguages(std::string& report, const Snapshot& snapshot) {
-  for (const Language* language = kLanguages; language->code; ++language) {
-    const Texts texts = TextsIn(snapshot, *language);
+void AddLanguages(std::string& report, const std::vector<Texts>& allTexts) {
+  const Language* language = kLanguages;
+  for (const Texts& texts : allTexts) {
     AddRow(report, std::string("  ") + language->code, texts.brief);
     AddLines(report, "", texts.detail);
+    ++language;
   }
 }
 
@@ -111,14 +112,14 @@ void AddEquipment(std::string& report, const Snapshot& snapshot) {
 
 }  // namespace
 
-std::string TextReport(const Snapshot& snapshot, bool all_languages) {
+std::string TextReport(const Snapshot& snapshot) {
   std::string report;
   if (!snapshot.source.name.empty()) AddRow(report, "Printer", CleanUtf8(snapshot.source.name));
   if (snapshot.identity) AddIdentity(report, *snapshot.identity);
   if (!snapshot.told) return report;
-  AddRow(report, "Status", StatusText(snapshot));
+  AddRow(report, "Status", snapshot.headline);
   AddLines(report, "", snapshot.texts.detail);
-  if (all_languages) AddLanguages(report, snapshot);
+  AddLanguages(report, snapshot.allTexts);
   AddRow(report, "Online", snapshot.online ? "yes" : "no");
   AddConditions(report, snapshot);
   AddList(report, "Trays", Names(snapshot.trays, [&](const Tray& tray) {

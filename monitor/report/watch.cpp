@@ -3,7 +3,8 @@
 #include <algorithm>
 #include <map>
 
-#include "nlohmann/json.hpp"
+#include "report/json.h"
+#include "snapshot/outcome.h"
 #include "words/clock.h"
 #include "words/labels.h"
 #include "words/safe_text.h"
@@ -16,7 +17,7 @@ using Parts = std::map<std::string, std::string>;
 
 // The headline alone; reminders under the same headline are told as conditions.
 Parts StatusParts(const Snapshot& snapshot) {
-  return {{"", StatusText(snapshot)}};
+  return {{"", snapshot.headline}};
 }
 
 Parts StateParts(const Snapshot& snapshot) {
@@ -27,7 +28,7 @@ Parts TrayParts(const Snapshot& snapshot) {
   Parts parts;
   for (const Tray& tray : snapshot.trays) {
     std::string text = TrayLabel(tray.id);
-    if (tray.paper != 0) text += ", " + PaperLabel(tray.paper);
+    if (tray.paper != 0) text += ", " + tray.paperName;
     if (tray.level) text += ", level " + std::to_string(*tray.level);
     parts[std::to_string(tray.id)] = text;
   }
@@ -150,11 +151,6 @@ const char* KindWord(EventKind kind) {
   return "back";
 }
 
-std::optional<std::chrono::system_clock::time_point> LastAnswer(const Watch& watch) {
-  if (!watch.good) return {};
-  return watch.good->when;
-}
-
 std::vector<Event> ObserveFailure(Watch& watch, const Snapshot& latest, SteadyTime now) {
   const bool news = watch.failures == 0 || watch.failing != latest.exchange.outcome;
   ++watch.failures;
@@ -162,25 +158,24 @@ std::vector<Event> ObserveFailure(Watch& watch, const Snapshot& latest, SteadyTi
   if (!news) return {};
   std::string from = "never answered so far";
   if (watch.good) from = "last answer " + AgeText(now - watch.goodAt) + " ago";
-  return {{EventKind::Lost, "printer", from, latest.trouble, {}, LastAnswer(watch)}};
+  return {{EventKind::Lost, "printer", from, latest.trouble, {}, LastAnswerOf(watch)}};
 }
 
 }  // namespace
 
 std::vector<Event> Observe(Watch& watch, const Snapshot& latest, SteadyTime now) {
-  if (!latest.told || latest.exchange.outcome != Outcome::Answered)
-    return ObserveFailure(watch, latest, now);
+  if (!IsGood(latest)) return ObserveFailure(watch, latest, now);
   std::vector<Event> events;
   if (!watch.good) {
-    events.push_back({EventKind::First, "printer", "", StatusText(latest), {}});
+    events.push_back({EventKind::First, "printer", "", latest.headline, {}});
   } else {
     if (watch.failures > 0) {
       events.push_back({EventKind::Back,
                         "printer",
                         "no usable answer for " + AgeText(now - watch.goodAt),
-                        StatusText(latest),
+                        latest.headline,
                         {},
-                        LastAnswer(watch)});
+                        LastAnswerOf(watch)});
     }
     for (const Group& group : kGroups)
       AddGroup(events, group, *watch.good, latest);
@@ -192,10 +187,15 @@ std::vector<Event> Observe(Watch& watch, const Snapshot& latest, SteadyTime now)
   return events;
 }
 
-std::chrono::milliseconds NextWait(const Watch& watch, std::chrono::milliseconds interval) {
+LastAnswer LastAnswerOf(const Watch& watch) {
+  if (!watch.good) return {};
+  return watch.good->when;
+}
+
+std::chrono::milliseconds NextWait(uint32_t failures, std::chrono::milliseconds interval) {
   constexpr std::chrono::milliseconds kLongest = std::chrono::minutes(1);
   auto wait = interval;
-  for (uint32_t i = 0; i < watch.failures && wait < kLongest; ++i)
+  for (uint32_t i = 0; i < failures && wait < kLongest; ++i)
     wait *= 2;
   return std::max(interval, std::min(wait, kLongest));
 }
@@ -221,7 +221,7 @@ std::string EventText(const Event& event, const Snapshot& latest) {
 }
 
 std::string EventJson(const Event& event, const Snapshot& latest) {
-  nlohmann::ordered_json json;
+  Json json;
   json["time"] = UtcText(latest.when);
   json["source"] = CleanUtf8(latest.source.name);
   json["group"] = event.group;

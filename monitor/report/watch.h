@@ -6,6 +6,7 @@
 #include <string>
 #include <vector>
 
+#include "report/reports.h"
 #include "snapshot/snapshot.h"
 
 namespace stmon {
@@ -21,7 +22,7 @@ struct Event {
   std::string to;                // for people; empty for what went
   std::optional<uint32_t> code;  // of a condition
   // Of a printer that fell silent or is back: when the last whole answer came, if one did.
-  std::optional<std::chrono::system_clock::time_point> lastAnswer = {};
+  LastAnswer lastAnswer = {};
 };
 
 struct Watch {
@@ -34,9 +35,12 @@ struct Watch {
 // What the new poll changed. The watch keeps the snapshot when it is a whole answer.
 std::vector<Event> Observe(Watch& watch, const Snapshot& latest, SteadyTime now);
 
-// How long to wait before the next poll: the interval while the printer answers; twice as long with
-// every poll that it does not, up to a minute or the interval, whichever is longer.
-std::chrono::milliseconds NextWait(const Watch& watch, std::chrono::milliseconds interval);
+LastAnswer LastAnswerOf(const Watch& watch);
+
+// How long to wait before the next poll, after so many in a row without an answer: the interval
+// while the printer answers; twice as long with every poll that it does not, up to a minute or the
+// interval, whichever is longer.
+std::chrono::milliseconds NextWait(uint32_t failures, std::chrono::milliseconds interval);
 
 // One line each, with its line feed.
 std::string EventText(const Event& event, const Snapshot& latest);

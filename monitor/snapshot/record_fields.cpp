@@ -76,7 +76,7 @@ RecordFields FieldsOf(const PrnInfoEx& record) {
   ForEach(record.statusList, record.statusCount,
           [&](const StatusNode& node) { fields.codes.push_back(node.code); });
   ForEach(record.trayList, record.trayCount, [&](const TrayNode& node) {
-    fields.trays.push_back({node.trayId, node.paperCode, node.paperLevel});
+    fields.trays.push_back({node.trayId, node.paperCode, "", node.paperLevel});
   });
   ForEach(record.binList, record.binCount, [&](const BinNode& node) {
     fields.bins.push_back({node.binId, node.binState});
@@ -103,7 +103,7 @@ RecordFields FieldsOf(const PrnInfo& info) {
     fields.codes.push_back(info.statusCode);
   }
   ForEachEntry(info.trayList, info.trayCount, [&](const TrayPaper& tray) {
-    fields.trays.push_back({tray.trayId, tray.paperCode, {}});
+    fields.trays.push_back({tray.trayId, tray.paperCode, "", {}});
   });
   size_t next = 0;
   ForEachEntry(info.trayLevelList, info.trayLevelCount, [&](const TrayLevel& level) {

@@ -14,6 +14,7 @@ namespace stmon {
 struct Tray {
   uint32_t id = 0;
   uint32_t paper = 0;             // paper code, 0 not told
+  std::string paperName;          // for people; empty when the paper was not told
   std::optional<uint32_t> level;  // as the printer reports it
 };
 

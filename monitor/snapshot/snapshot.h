@@ -1,4 +1,4 @@
-// Everything that one poll told, taken from the library once. Every report reads this and nothing
+// Everything that one poll told, asked of the library once. Every report reads this and nothing
 // else, so that list, status, texts, picture and exit status cannot contradict each other. What the
 // printer did not tell is empty.
 #pragma once
@@ -10,25 +10,15 @@
 #include <string>
 #include <vector>
 
+#include "snapshot/condition.h"
 #include "snapshot/record.h"
 #include "snapshot/record_fields.h"
+#include "snapshot/verdict.h"
 #include "wire/transport.h"
-#include "words/reasons.h"
+#include "words/languages.h"
 #include "words/texts.h"
 
 namespace stmon {
-
-// The exit status, by the convention of monitoring plug-ins.
-enum class Verdict { Fine = 0, Attention = 1, CannotPrint = 2, Unknown = 3 };
-
-struct Condition {
-  uint32_t code = 0;
-  bool known = false;  // has a row in the library's table
-  StatusRow row{};
-  const Reason* reason = nullptr;  // never null once read
-  uint32_t rank = 0;               // 1 decides; the others in the order in which they would
-  Texts texts;                     // of this code alone
-};
 
 // What the printer is, from its Device ID.
 struct Identity {
@@ -42,13 +32,14 @@ struct Identity {
 // Which of the library's two records answers.
 enum class RecordKind { List, Flat };
 
-// What a snapshot is read from.
+// What a snapshot is read from, and in which language its texts are wanted.
 struct Source {
   std::string name;   // what was asked, for people
   std::string query;  // the bytes that were sent; empty when a saved reply is shown
   std::string deviceId;
   RecordKind kind = RecordKind::List;
   const Language* language = &kLanguages[0];
+  bool everyLanguage = false;  // the state's texts in all the others as well
 };
 
 struct Snapshot {
@@ -58,6 +49,7 @@ struct Snapshot {
   std::chrono::system_clock::time_point when;
   std::chrono::milliseconds took{};
 
+  // Shared, so that a snapshot can be kept and compared without a copy of their lists.
   std::shared_ptr<Record> record = std::make_shared<Record>();
   std::shared_ptr<PrnInfo> flat = std::make_shared<PrnInfo>();
 
@@ -66,9 +58,14 @@ struct Snapshot {
   bool online = false;
   bool hasError = false;
   std::vector<Condition> conditions;  // most important first, without repetitions
-  std::vector<uint32_t> dominant;     // the codes that decide; several for toners of one kind
-  Texts texts;                        // of the printer's state
-  std::string icon;                   // the name of the state icon
+  Verdict verdict = Verdict::Unknown;
+
+  // The words and the icon of the state; those of "no response" when the printer did not tell it.
+  std::string headline;         // one line
+  Texts texts;                  // empty when the library does not know the dominant code
+  std::vector<Texts> allTexts;  // in the order of kLanguages, when they were asked for
+  std::string icon;             // a name of the library's resources
+
   std::optional<uint32_t> currentTray;
   std::optional<uint32_t> currentBin;
   std::vector<Tray> trays;
@@ -79,7 +76,6 @@ struct Snapshot {
   std::vector<uint32_t> fonts;         // codes of the fonts that the library knows
   std::vector<std::string> fontNames;  // all, as the printer wrote them
   std::optional<std::vector<Option>> options;
-  Verdict verdict = Verdict::Unknown;
 };
 
 Snapshot ReadExchange(Source source, Exchange exchange);
@@ -87,16 +83,7 @@ Snapshot ReadExchange(Source source, Exchange exchange);
 // A Device ID alone, without a poll.
 Snapshot ReadIdentity(Source source);
 
-// In one line for people: the library's words, or the keyword where it has none.
-std::string ConditionText(const Condition& condition);
-std::string StatusText(const Snapshot& snapshot);
-
-// The library's words in another language.
-Texts TextsIn(const Snapshot& snapshot, const Language& language);
-
-// The keywords of all conditions, "none" when there is none: printer-state-reasons.
-std::vector<std::string> StateReasons(const Snapshot& snapshot);
-
-const char* OutcomeWord(Outcome outcome);  // a word for programs: "answered", "refused", ...
+// The answer is whole and tells the printer's state.
+bool IsGood(const Snapshot& snapshot);
 
 }  // namespace stmon

@@ -34,7 +34,7 @@ struct Poller {
 namespace {
 
 void Run(const std::shared_ptr<Poller>& poller) {
-  stmon::Watch watch;  // of which the count of failures alone is used
+  uint32_t failures = 0;  // in a row
   std::unique_lock lock(poller->mutex);
   while (!poller->stopped) {
     poller->asked = false;
@@ -43,12 +43,12 @@ void Run(const std::shared_ptr<Poller>& poller) {
     const auto end = std::chrono::steady_clock::now();
     lock.lock();
     if (poller->stopped) break;
-    watch.failures = exchange.outcome == stmon::Outcome::Answered ? 0 : watch.failures + 1;
+    failures = exchange.outcome == stmon::Outcome::Answered ? 0 : failures + 1;
     poller->answer = std::move(exchange);
     PostMessageW(poller->window, poller->message, 0, 0);
     // The interval may change while we wait.
     while (!poller->stopped && !poller->asked) {
-      const auto next = end + stmon::NextWait(watch, poller->interval);
+      const auto next = end + stmon::NextWait(failures, poller->interval);
       if (poller->changed.wait_until(lock, next) == std::cv_status::timeout) break;
     }
   }

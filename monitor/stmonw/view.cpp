@@ -14,10 +14,6 @@ constexpr uint32_t kPaperLevelIcon = 1;  // kind of PatGetIconName
 constexpr uint32_t kFullTray = 100;      // per cent
 constexpr const wchar_t* kInUse = L" (in use)";
 
-bool Responds(const Knowledge& knowledge) {
-  return knowledge.latest && knowledge.latest->told;
-}
-
 std::wstring WithCrLf(const std::wstring& text) {
   std::wstring lines;
   for (const wchar_t unit : text) {
@@ -30,12 +26,9 @@ std::wstring WithCrLf(const std::wstring& text) {
 // Offline hides what would decide otherwise.
 std::vector<std::wstring> OtherConditions(const stmon::Snapshot& snapshot) {
   const bool offline = !snapshot.online && !snapshot.hasError;
-  const auto& dominant = snapshot.dominant;
   std::vector<std::wstring> others;
   for (const stmon::Condition& condition : snapshot.conditions) {
-    const bool decides =
-        std::find(dominant.begin(), dominant.end(), condition.code) != dominant.end();
-    if (condition.code == 0 || (decides && !offline)) continue;
+    if (condition.code == 0 || (condition.dominant && !offline)) continue;
     std::string text = condition.texts.detail;
     std::replace(text.begin(), text.end(), '\n', ' ');
     others.push_back(Wide(text.empty() ? stmon::ConditionText(condition) : text));
@@ -117,7 +110,7 @@ void Learn(Knowledge& knowledge, stmon::Snapshot snapshot) {
 PrnInfoEx ShownRecord(const Knowledge& knowledge) {
   PrnInfoEx record{};
   if (knowledge.lastGood) record = *knowledge.lastGood->record;
-  if (knowledge.latest && !Responds(knowledge)) {
+  if (knowledge.latest && !knowledge.latest->told) {
     // Without the error flag the texts would call it offline, which the printer has not said.
     record.noResponse = 1;
     record.hasError = 1;
@@ -143,19 +136,11 @@ View MakeView(const Knowledge& knowledge, const stmon::Language& language) {
     view.icon = "ICO_WARMUP";
     return view;
   }
-  if (Responds(knowledge)) {
-    const stmon::Snapshot& latest = *knowledge.latest;
-    view.shortText = Wide(stmon::StatusText(latest));
-    view.detail = WithCrLf(Wide(latest.texts.detail));
-    view.icon = stmon::ExistingIcon(latest.icon);
-    view.others = OtherConditions(latest);
-  } else {
-    const PrnInfoEx record = ShownRecord(knowledge);
-    const stmon::Texts texts = stmon::AskTexts(record, language);
-    view.shortText = Wide(texts.brief);
-    view.detail = WithCrLf(Wide(texts.detail));
-    view.icon = stmon::ExistingIcon(stmon::AskIcon(record));
-  }
+  const stmon::Snapshot& latest = *knowledge.latest;
+  view.shortText = Wide(latest.headline);
+  view.detail = WithCrLf(Wide(latest.texts.detail));
+  view.icon = stmon::ExistingIcon(latest.icon);
+  view.others = OtherConditions(latest);
   if (!knowledge.lastGood) return view;
   const stmon::Snapshot& good = *knowledge.lastGood;
   for (const stmon::Tray& tray : good.trays)

@@ -152,8 +152,12 @@ constexpr Reason kReasons[] = {
 
 }  // namespace
 
+uint32_t FoldServiceCalls(uint32_t code) {
+  return code >= 49 && code <= 64 ? 48 : code;
+}
+
 const Reason& ReasonOf(uint32_t code) {
-  const uint32_t folded = code >= 49 && code <= 64 ? 48 : code;
+  const uint32_t folded = FoldServiceCalls(code);
   const Reason* row = kReasons;
   while (row->code != kOtherCode && row->code != folded)
     ++row;

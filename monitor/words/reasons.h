@@ -24,8 +24,10 @@ struct Reason {
 constexpr uint32_t kOtherCode = 0xFFFFFFFF;    // a code without a row
 constexpr uint32_t kOfflineCode = 0xFFFFFFFE;  // the printer says that it is offline
 
-// The row of a status code; the service calls 48 to 64 share one, a code without a row gets
-// `other`.
+// The service calls 48 to 64 are one status, of which the tables have a row for 48 alone.
+uint32_t FoldServiceCalls(uint32_t code);
+
+// The row of a status code; a code without one gets that of kOtherCode.
 const Reason& ReasonOf(uint32_t code);
 
 // The rows from the first to the closing one, whose code is kOtherCode.

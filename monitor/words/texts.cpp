@@ -83,6 +83,13 @@ Texts AskTexts(const PrnInfo& info, const Language& language, uint32_t dominant)
   return texts;
 }
 
+bool AskRow(uint32_t code, StatusRow& row) {
+  PrnInfo info{};
+  info.structSize = PrnInfoSize;
+  info.statusCode = code;
+  return PatGetPrinterStatus(&info, &row) == 1;
+}
+
 std::string AskIcon(const PrnInfoEx& record) {
   char name[17] = "";
   return PatGetErrParts_Ex(&record, name) == 1 ? name : "";

@@ -18,6 +18,9 @@ struct Texts {
 Texts AskTexts(const PrnInfoEx& record, const Language& language);
 Texts AskTexts(const PrnInfo& info, const Language& language, uint32_t dominant);
 
+// The library's row of a status code. Result: false for a code without one.
+bool AskRow(uint32_t code, StatusRow& row);
+
 // The name of the icon that shows the record's state: "ICO_ERR_PAPER".
 std::string AskIcon(const PrnInfoEx& record);
 std::string AskIcon(const PrnInfo& info);

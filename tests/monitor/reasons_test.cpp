@@ -71,6 +71,6 @@ TEST_CASE("the exit status follows the dominant condition") {
     const auto snapshot =
         stmon::ReadExchange({"test", "", "", stmon::RecordKind::List}, stmon::JudgeReply(reply));
     CHECK(snapshot.verdict == row.verdict);
-    CHECK(stmon::StateReasons(snapshot) == row.reasons);
+    CHECK(stmon::StateReasons(snapshot.conditions, snapshot.online) == row.reasons);
   }
 }

@@ -1,0 +1,15 @@
+// How an exchange ended, in words.
+#pragma once
+
+#include <string>
+
+#include "wire/transport.h"
+
+namespace stmon {
+
+const char* OutcomeWord(Outcome outcome);  // a word for programs: "answered", "refused", ...
+
+// For people: what happened and what to do; empty when all is well.
+std::string TroubleText(const Exchange& exchange);
+
+}  // namespace stmon

@@ -1,0 +1,176 @@
+#include "stmon/poll.h"
+
+#include <algorithm>
+#include <optional>
+#include <thread>
+
+#include "picture/picture.h"
+#include "report/reports.h"
+#include "report/watch.h"
+#include "system/files.h"
+#include "system/streams.h"
+#include "system/terminal.h"
+#include "wire/query.h"
+#include "words/safe_text.h"
+
+namespace stmon {
+namespace {
+
+constexpr int kTrouble = static_cast<int>(Verdict::Unknown);
+
+Source SourceOf(const Options& options, std::string name) {
+  Source source;
+  source.name = std::move(name);
+  source.deviceId = options.deviceId;
+  source.kind = options.record == "flat" ? RecordKind::Flat : RecordKind::List;
+  source.language = &ChosenLanguage(options);
+  // What changes is told in one language.
+  source.everyLanguage = options.language == "all" && options.watch == 0;
+  return source;
+}
+
+Snapshot AskFile(const Options& options) {
+  std::string bytes;
+  const std::string trouble = ReadWholeFile(options.replyFile, kLongestReply, bytes);
+  Exchange exchange;
+  if (trouble.empty()) {
+    exchange = JudgeReply(std::move(bytes));
+  } else {
+    exchange.outcome = Outcome::Unreadable;
+    exchange.detail = trouble;
+  }
+  const bool standard = options.replyFile == "-";
+  return ReadExchange(
+      SourceOf(options, standard ? "standard input" : "saved reply " + options.replyFile),
+      std::move(exchange));
+}
+
+Snapshot AskNetwork(const Options& options, const Target& target, const std::string& name) {
+  const auto timeout = std::chrono::milliseconds(static_cast<int64_t>(options.timeout * 1000));
+  const auto begin = std::chrono::steady_clock::now();
+  Source source = SourceOf(options, name);
+  source.query = BuildQuery();
+  Exchange exchange = AskPrinter(target, source.query, timeout);
+  Snapshot snapshot = ReadExchange(std::move(source), std::move(exchange));
+  snapshot.took = std::chrono::duration_cast<std::chrono::milliseconds>(
+      std::chrono::steady_clock::now() - begin);
+  return snapshot;
+}
+
+// Result: the file could be written; if not, that has been told.
+bool WriteFile(const std::string& name, const std::string& bytes) {
+  const std::string trouble = WriteWholeFile(name, bytes);
+  if (!trouble.empty()) Fail("cannot write " + CleanUtf8(name) + ": " + trouble + ".");
+  return trouble.empty();
+}
+
+// Writes the files that the options ask for. Result: all could be written.
+bool WriteFiles(const Options& options, const Snapshot& snapshot, const LastAnswer& last_answer) {
+  const std::string& reply = snapshot.exchange.reply;
+  bool written = true;
+  if (!options.saveFile.empty() && !reply.empty()) written = WriteFile(options.saveFile, reply);
+  if (!options.metricsFile.empty())
+    written &= WriteFile(options.metricsFile, MetricsReport(snapshot, last_answer));
+  return written;
+}
+
+bool ShowInTerminal(const Image& image) {
+  constexpr int kMostColumns = 100;  // more make it larger, not clearer
+  const Terminal terminal = OutputTerminal();
+  if (terminal.columns == 0) {
+    Fail(
+        "--picture -: standard output is no terminal with colours; --picture FILE.png writes a "
+        "file.");
+    return false;
+  }
+  Print(HalfBlocks(image, std::min(terminal.columns, kMostColumns), terminal.trueColour));
+  return true;
+}
+
+// Result: the picture could be shown, or there is nothing to show.
+bool ShowPicture(const Options& options, const Snapshot& snapshot) {
+  if (options.pictureFile.empty() || !snapshot.told) return true;
+  const Image image = snapshot.source.kind == RecordKind::Flat ? DrawPicture(*snapshot.flat)
+                                                               : DrawPicture(*snapshot.record);
+  if (image.pixels.empty()) {
+    Fail("the picture could not be drawn.");
+    return false;
+  }
+  return options.pictureFile == "-" ? ShowInTerminal(image)
+                                    : WriteFile(options.pictureFile, EncodePng(image));
+}
+
+// Result: the exit status.
+int ReportOnce(const Options& options, const Snapshot& snapshot) {
+  LastAnswer last_answer;
+  if (IsGood(snapshot)) last_answer = snapshot.when;
+  const bool written = WriteFiles(options, snapshot, last_answer);
+  if (options.json) {
+    Print(JsonReport(snapshot));
+  } else if (snapshot.told || snapshot.identity) {
+    Print(TextReport(snapshot));
+  }
+  const bool drawn = ShowPicture(options, snapshot);
+  if (options.raw) Print((options.json ? "" : "\n") + RawReport(snapshot));
+  if (!snapshot.trouble.empty()) Fail(CleanUtf8(snapshot.source.name + ": " + snapshot.trouble));
+  return written && drawn ? static_cast<int>(snapshot.verdict) : kTrouble;
+}
+
+// Polls until the process is ended from outside, one query at a time; the connection is closed
+// between polls, since a printer serves one at a time and others want to print.
+int WatchOn(const Options& options, const Target& target, const std::string& name) {
+  const auto interval = std::chrono::milliseconds(static_cast<int64_t>(options.watch * 1000));
+  Watch watch;
+  for (bool first_poll = true;; first_poll = false) {
+    const Snapshot snapshot = AskNetwork(options, target, name);
+    const bool first_answer = IsGood(snapshot) && !watch.good;
+    const bool was_silent = watch.failures > 0;
+    const auto events = Observe(watch, snapshot, std::chrono::steady_clock::now());
+    for (const Event& event : events) {
+      // A printer that answers at once needs no line before its first report.
+      if (event.kind == EventKind::First && !was_silent) continue;
+      Print(options.json ? EventJson(event, snapshot) : EventText(event, snapshot));
+    }
+    if (first_answer) Print(options.json ? JsonReport(snapshot) : TextReport(snapshot) + "\n");
+    if (options.raw && !events.empty()) Print(RawReport(snapshot));
+    // A file that cannot be written from the start is a mistake; later the disk may be full for a
+    // while.
+    const bool written = WriteFiles(options, snapshot, LastAnswerOf(watch));
+    if (!written && first_poll) return kTrouble;
+    std::this_thread::sleep_for(NextWait(watch.failures, interval));
+  }
+}
+
+}  // namespace
+
+int Fail(const std::string& message) {
+  Complain("stmon: " + message + "\n");
+  return kTrouble;
+}
+
+const Language& ChosenLanguage(const Options& options) {
+  const Language* language = FindLanguage(options.language);
+  return language ? *language : UserLanguage();
+}
+
+int ShowDeviceId(const Options& options) {
+  const Snapshot snapshot = ReadIdentity(SourceOf(options, ""));
+  const Identity& identity = *snapshot.identity;
+  if (identity.maker.empty() && identity.model.empty() && identity.description.empty() &&
+      identity.languages.empty()) {
+    return Fail(
+        "the Device ID has none of the fields MFG:, CMD:, MDL: and DES:, each ended by ';'.");
+  }
+  return ReportOnce(options, snapshot);
+}
+
+int ShowReply(const Options& options) {
+  return ReportOnce(options, AskFile(options));
+}
+
+int Poll(const Options& options, const Target& target, const std::string& name) {
+  if (options.watch > 0) return WatchOn(options, target, name);
+  return ReportOnce(options, AskNetwork(options, target, name));
+}
+
+}  // namespace stmon
