@@ -1,21 +1,33 @@
 # The module definition is the one list of exports. From it come the version script of the Linux
-# library and the definition with decorated names from which the import library is made.
+# library, the definition that the Windows library is linked with, and the one that its import
+# library is made from. In 32 bits names are decorated with the bytes of their arguments, and so are
+# those in the list; in 64 bits they are not. Ordinals are the same.
 
-# Writes `version_script` (exports and host functions visible, nothing else) and `import_definition`.
-function(stmdata_derive_exports definition host_functions version_script import_definition)
+# Writes `version_script` (exports and host functions visible, nothing else), `link_definition` and
+# `import_definition` for the width of this build.
+function(stmdata_derive_exports definition host_functions version_script link_definition import_definition)
   set_property(DIRECTORY APPEND PROPERTY CMAKE_CONFIGURE_DEPENDS ${definition} ${host_functions})
   file(STRINGS ${definition} rows REGEX "@[0-9]+$")
   file(STRINGS ${host_functions} host_names)
   set(script "{\n  global:\n")
+  set(link "LIBRARY stmdata\nEXPORTS\n")
   set(import "LIBRARY stmdata.dll\nEXPORTS\n")
   foreach(row IN LISTS rows)
     string(REGEX MATCH "^ *([A-Za-z_0-9]+) = ([A-Za-z_0-9]+@[0-9]+) (@[0-9]+)$" matched "${row}")
     if(NOT matched)
       message(FATAL_ERROR "${definition}: a row that is not `Name = Name@bytes @ordinal`: ${row}")
     endif()
-    string(APPEND script "    ${CMAKE_MATCH_1};\n")
-    if(NOT CMAKE_MATCH_1 STREQUAL "DllMain")
-      string(APPEND import "  ${CMAKE_MATCH_2} ${CMAKE_MATCH_3}\n")
+    set(name ${CMAKE_MATCH_1})
+    set(ordinal ${CMAKE_MATCH_3})
+    if(CMAKE_SIZEOF_VOID_P EQUAL 4)
+      set(symbol ${CMAKE_MATCH_2})
+    else()
+      set(symbol ${name})
+    endif()
+    string(APPEND script "    ${name};\n")
+    string(APPEND link "  ${name} = ${symbol} ${ordinal}\n")
+    if(NOT name STREQUAL "DllMain")
+      string(APPEND import "  ${symbol} ${ordinal}\n")
     endif()
   endforeach()
   foreach(name IN LISTS host_names)
@@ -23,5 +35,6 @@ function(stmdata_derive_exports definition host_functions version_script import_
   endforeach()
   string(APPEND script "  local: *;\n};\n")
   file(CONFIGURE OUTPUT ${version_script} CONTENT "${script}" @ONLY)
+  file(CONFIGURE OUTPUT ${link_definition} CONTENT "${link}" @ONLY)
   file(CONFIGURE OUTPUT ${import_definition} CONTENT "${import}" @ONLY)
 endfunction()

@@ -36,7 +36,7 @@ configure_package_config_file(cmake/stmdata-config.cmake.in stmdata-config.cmake
   INSTALL_DESTINATION ${package_folder}
   PATH_VARS CMAKE_INSTALL_INCLUDEDIR CMAKE_INSTALL_LIBDIR CMAKE_INSTALL_BINDIR
   NO_CHECK_REQUIRED_COMPONENTS_MACRO)
-# Refuses a project that is not 32-bit, which the headers would refuse with less clear words.
+# Refuses a project of another width than the library's.
 write_basic_package_version_file(stmdata-config-version.cmake COMPATIBILITY SameMajorVersion)
 install(FILES ${CMAKE_CURRENT_BINARY_DIR}/stmdata-config.cmake
   ${CMAKE_CURRENT_BINARY_DIR}/stmdata-config-version.cmake DESTINATION ${package_folder})

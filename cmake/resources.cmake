@@ -1,7 +1,12 @@
 # One resource script for both systems: an object that the linker takes into the Windows library, or
 # an image in the .res format that the Linux library carries inside an assembler file.
 
-find_program(STMDATA_WINDRES i686-w64-mingw32-windres REQUIRED)
+# An image is the same from either; an object is for the width of the build.
+if(WIN32)
+  set(STMDATA_WINDRES ${CMAKE_RC_COMPILER})
+else()
+  find_program(STMDATA_WINDRES NAMES i686-w64-mingw32-windres x86_64-w64-mingw32-windres REQUIRED)
+endif()
 
 # Defines the interface library `target` that brings the resources into whatever links it.
 function(stmdata_add_resources target folder)

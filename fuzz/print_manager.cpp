@@ -7,7 +7,7 @@
 
 namespace {
 
-const char* const kAllOnes = reinterpret_cast<const char*>(uintptr_t{STM_ABSENT});
+const char* const kAllOnes = reinterpret_cast<const char*>(STM_ABSENT_POINTER);
 
 const char* const kNames[] = {
     "HandTray",

@@ -51,19 +51,19 @@ HGLOBAL WINAPI CountedFree(HGLOBAL block) {
 void Replace(HMODULE module, const char* function, const void* replacement) {
   auto* base = reinterpret_cast<char*>(module);
   const auto* dos = reinterpret_cast<IMAGE_DOS_HEADER*>(base);
-  const auto* headers = reinterpret_cast<IMAGE_NT_HEADERS32*>(base + dos->e_lfanew);
+  const auto* headers = reinterpret_cast<IMAGE_NT_HEADERS*>(base + dos->e_lfanew);
   const auto& folder = headers->OptionalHeader.DataDirectory[IMAGE_DIRECTORY_ENTRY_IMPORT];
   const auto* row = reinterpret_cast<IMAGE_IMPORT_DESCRIPTOR*>(base + folder.VirtualAddress);
   for (; row->Name != 0; ++row) {
-    const auto* name = reinterpret_cast<IMAGE_THUNK_DATA32*>(base + row->OriginalFirstThunk);
-    auto* slot = reinterpret_cast<IMAGE_THUNK_DATA32*>(base + row->FirstThunk);
+    const auto* name = reinterpret_cast<IMAGE_THUNK_DATA*>(base + row->OriginalFirstThunk);
+    auto* slot = reinterpret_cast<IMAGE_THUNK_DATA*>(base + row->FirstThunk);
     for (; name->u1.AddressOfData != 0; ++name, ++slot) {
-      if (IMAGE_SNAP_BY_ORDINAL32(name->u1.Ordinal)) continue;
+      if (IMAGE_SNAP_BY_ORDINAL(name->u1.Ordinal)) continue;
       const auto* import = reinterpret_cast<IMAGE_IMPORT_BY_NAME*>(base + name->u1.AddressOfData);
       if (std::strcmp(reinterpret_cast<const char*>(import->Name), function) != 0) continue;
       DWORD protection;
       VirtualProtect(slot, sizeof *slot, PAGE_READWRITE, &protection);
-      slot->u1.Function = reinterpret_cast<DWORD>(replacement);
+      slot->u1.Function = reinterpret_cast<ULONG_PTR>(replacement);
       VirtualProtect(slot, sizeof *slot, protection, &protection);
     }
   }
@@ -84,7 +84,7 @@ const bool replaced = [] {
 // The program's own definitions come before the library's, also for the library.
 extern "C" {
 
-HGLOBAL STM_CALL GlobalAlloc(UINT, uint32_t bytes) {
+HGLOBAL STM_CALL GlobalAlloc(UINT, size_t bytes) {
   return Counted([=] { return std::calloc(bytes ? bytes : 1, 1); });
 }
 

@@ -8,8 +8,8 @@
 namespace test {
 
 // Every field that is not zero, lists in order: "status[4 5] online tray=4 trays[3:7:50]". A count
-// that differs from its chain's length stands in parentheses: "trays(0)[0:0:0]". A node whose
-// stored size is wrong is marked.
+// that differs from its chain's length stands in parentheses: "trays(0)[0:0:0]". A record
+// that tells its own size is "sized"; a node that tells a wrong one is marked.
 inline std::string Describe(const PrnInfoEx& record) {
   std::string out;
   const auto word = [&out](const std::string& text) {
@@ -44,7 +44,10 @@ inline std::string Describe(const PrnInfoEx& record) {
   };
 
   number("tag", record.recordTag);
-  number("size", record.structSize);
+  if (record.structSize == sizeof record)
+    word("sized");
+  else
+    number("size", record.structSize);
   list("status", record.statusCount, record.statusList,
        [&](auto& node) { return join(node.code); });
   text("model", record.modelName);

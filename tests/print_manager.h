@@ -10,7 +10,7 @@
 
 namespace test {
 
-inline const char* const kAbsentText = reinterpret_cast<const char*>(uintptr_t{STM_ABSENT});
+inline const char* const kAbsentText = reinterpret_cast<const char*>(STM_ABSENT_POINTER);
 
 struct PrintManager {
   PMPrnInfo record;

@@ -126,7 +126,7 @@ struct GroupCase {
   const char* why;
   void (*set)(PrintManager& manager);
   uint32_t groups;
-  const char* list;  // the list-based record, behind "tag=404 size=112"
+  const char* list;  // the list-based record, behind "tag=404 sized"
   uint32_t result;   // of the flat conversion; the other always succeeds
   const char* flat;  // what changes beside structSize
 };
@@ -292,7 +292,7 @@ TEST_CASE("a print manager's groups arrive in both records, and nothing else cha
     CAPTURE(row.why);
     PrintManager manager;
     row.set(manager);
-    const std::string expected = std::string("tag=404 size=112") + row.list;
+    const std::string expected = std::string("tag=404 sized") + row.list;
     test::Record record;
     CHECK(Converted(record, manager, row.groups) == expected);
     // A second time nothing changes: no node, no text is kept beside the new one.
@@ -319,24 +319,24 @@ TEST_CASE("lists are resized in place, whatever their counts said") {
 
   test::Record record;
   CHECK(Converted(record, three, groups) ==
-        "tag=404 size=112 trays[3:8:100 4:8:100 5:8:100] options[105:0 1:0 0:0]");
+        "tag=404 sized trays[3:8:100 4:8:100 5:8:100] options[105:0 1:0 0:0]");
   const TrayNode* const first = record.trayList;
   record.optionList->optionValue = 9;
   CHECK(Converted(record, two, groups) ==
-        "tag=404 size=112 trays[7:8:100 2:8:100] options[105:9 105:0]");
+        "tag=404 sized trays[7:8:100 2:8:100] options[105:9 105:0]");
   CHECK(record.trayList == first);
   CHECK(Converted(record, three, groups) ==
-        "tag=404 size=112 trays[3:8:100 4:8:100 5:8:100] options[105:9 1:0 0:0]");
+        "tag=404 sized trays[3:8:100 4:8:100 5:8:100] options[105:9 1:0 0:0]");
   CHECK(record.trayList == first);
 
   for (const uint32_t claimed : {0u, 1u, 2u, 40u, kNone}) {
     CAPTURE(claimed);
     record.trayCount = claimed;
     CHECK(Converted(record, two, GroupTrays) ==
-          "tag=404 size=112 trays[7:8:100 2:8:100] options[105:9 1:0 0:0]");
+          "tag=404 sized trays[7:8:100 2:8:100] options[105:9 1:0 0:0]");
     record.trayCount = claimed;
     CHECK(Converted(record, three, GroupTrays) ==
-          "tag=404 size=112 trays[3:8:100 4:8:100 5:8:100] options[105:9 1:0 0:0]");
+          "tag=404 sized trays[3:8:100 4:8:100 5:8:100] options[105:9 1:0 0:0]");
   }
 }
 
@@ -351,7 +351,7 @@ TEST_CASE("absent items are items that say nothing") {
     manager.record.optionInfo = manager.record.statusListInfo = &group;
     test::Record record;
     CHECK(Converted(record, manager, kAllGroups) ==
-          "tag=404 size=112 status[65535] language=4294967295 languages[0] fonts[0] "
+          "tag=404 sized status[65535] language=4294967295 languages[0] fonts[0] "
           "trays[0:41:100] bins[255:2] options[0:0]");
     PrnInfo flat = test::PoisonedPrnInfo();
     CHECK(PatSetPMPrnInfoToPrnInfo_0(&flat, &manager.record, GroupBins | GroupFonts) == 1);
@@ -371,7 +371,7 @@ TEST_CASE("a record's own texts may come back to it") {
   REQUIRE(PatSetPMPrnInfoToPrnInfo_0(&flat, &manager.record, GroupModelInfo) == 1);
   manager.SetModel(record.modelName, record.versionText1, kNone);
   CHECK(Converted(record, manager, GroupModelInfo) ==
-        "tag=404 size=112 model='Nobody 1' maker='ORLEX' version1='1.02' number=7 code=255");
+        "tag=404 sized model='Nobody 1' maker='ORLEX' version1='1.02' number=7 code=255");
   manager.SetModel(flat.modelName + 3, flat.versionText1, kNone);
   CHECK(PatSetPMPrnInfoToPrnInfo_0(&flat, &manager.record, GroupModelInfo) == 1);
   CHECK(std::string(flat.modelName) == "ody 1");

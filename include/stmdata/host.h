@@ -1,20 +1,25 @@
 /* Linux only: the few platform functions and types that a caller of libstmdata.so needs.
 
-   They bear the names, meanings and calling convention (callee removes the arguments) that they
-   have on Windows, so that one caller's source serves both systems; on Windows <windows.h> has
-   them. */
+   They bear the names, meanings and (in 32 bits) calling convention that they have on Windows, where
+   the callee removes the arguments, so that one caller's source serves both systems; on Windows
+   <windows.h> has them. */
 #ifndef STMDATA_HOST_H
 #define STMDATA_HOST_H
 
 #ifndef _WIN32
 
+#include <stddef.h>
 #include <stdint.h>
 
 #ifdef __cplusplus
 extern "C" {
 #endif
 
+#ifdef __i386__
 #define STM_CALL __attribute__((stdcall))
+#else
+#define STM_CALL /* 64-bit systems have one calling convention */
+#endif
 #define STM_HOST_API __attribute__((visibility("default")))
 
 typedef uint32_t DWORD;
@@ -27,7 +32,7 @@ typedef struct HBITMAP__* HBITMAP;
 typedef struct HICON__* HICON;
 typedef void* HGDIOBJ;
 
-typedef struct BITMAP { /* 24 bytes */
+typedef struct BITMAP { /* 24 bytes, 32 with 64-bit pointers */
   int32_t bmType;
   int32_t bmWidth;
   int32_t bmHeight;
@@ -60,7 +65,7 @@ STM_HOST_API void STM_CALL SetLastError(DWORD code);
 
 /* A fixed memory block of `bytes` bytes, zero-filled with GMEM_ZEROINIT; its handle is its address.
    Null when there is no memory. Released with GlobalFree; free() does as well. */
-STM_HOST_API HGLOBAL STM_CALL GlobalAlloc(UINT flags, uint32_t bytes);
+STM_HOST_API HGLOBAL STM_CALL GlobalAlloc(UINT flags, size_t bytes);
 
 /* Releases the block; null is allowed. Result: null. */
 STM_HOST_API HGLOBAL STM_CALL GlobalFree(HGLOBAL block);

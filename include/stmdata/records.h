@@ -1,8 +1,10 @@
 /* The records that cross the boundary of the library, byte for byte.
 
-   All integers are little-endian, pointers are 32 bits wide, and there are no gaps but the reserved
-   fields named below; the assertions under each record prove it. The headers therefore compile for
-   32-bit targets only. Plain C99 and later, and C++. */
+   All integers are little-endian. With 32-bit pointers there are no gaps but the reserved fields
+   named below; with 64-bit pointers the fields and their order are the same, each pointer stands at
+   a multiple of 8, and so does the end of a record that has one. A record without pointers is one
+   and the same for both. The assertions under each record prove it. Comments show a field's offset;
+   where there are two, the first is that with 32-bit pointers. Plain C99 and later, and C++. */
 #ifndef STMDATA_RECORDS_H
 #define STMDATA_RECORDS_H
 
@@ -16,7 +18,9 @@ extern "C" {
 #define STM_ASSERT_LAYOUT(name, condition) typedef char stm_assert_##name[(condition) ? 1 : -1]
 #endif
 
-STM_ASSERT_LAYOUT(pointers_are_32_bits_wide, sizeof(void*) == 4);
+/* What holds with 32-bit pointers, and with 64-bit ones. */
+#define STM_EITHER(with32, with64) (sizeof(void*) == 4 ? (with32) : (with64))
+STM_ASSERT_LAYOUT(pointers_are_32_or_64_bits_wide, sizeof(void*) == STM_EITHER(4, 8));
 
 /* STM_AT(record, field, offset, width): the field stands at this byte and has this many bytes. */
 #define STM_AT(record, field, offset, width)                                         \
@@ -50,175 +54,179 @@ enum {
 
 /* Codes with a meaning of their own in the fields below. */
 enum {
-  StatusPrinting = 100,      /* status: printing, nothing serious pending */
-  StatusNoResponse = 102,    /* status: the printer does not answer */
-  StatusSeveralMarker = 107, /* low byte of PrnInfo.statusCode: look at statusList */
-  TrayBypass = 1,            /* tray ids: 2 multi-purpose tray, 3 to 7 trays 1 to 5 */
-  PaperNone = 1,             /* paper code of a tray without paper */
-  PaperTrayMissing = 41,     /* paper code of a tray that is not in place */
-  OptionDuplex = 1,          /* option code of the duplex unit */
-  ModelUnknown = 255,        /* model code */
-  BinUnknown = 255,          /* output bin id */
-  PrnInfoExTag = 404,        /* PrnInfoEx.recordTag */
-  PrnInfoExSize = 112,       /* PrnInfoEx.structSize */
-  PrnInfoSize = 2400         /* PrnInfo.structSize */
+  StatusPrinting = 100,                 /* status: printing, nothing serious pending */
+  StatusNoResponse = 102,               /* status: the printer does not answer */
+  StatusSeveralMarker = 107,            /* low byte of PrnInfo.statusCode: look at statusList */
+  TrayBypass = 1,                       /* tray ids: 2 multi-purpose tray, 3 to 7 trays 1 to 5 */
+  PaperNone = 1,                        /* paper code of a tray without paper */
+  PaperTrayMissing = 41,                /* paper code of a tray that is not in place */
+  OptionDuplex = 1,                     /* option code of the duplex unit */
+  ModelUnknown = 255,                   /* model code */
+  BinUnknown = 255,                     /* output bin id */
+  PrnInfoExTag = 404,                   /* PrnInfoEx.recordTag */
+  PrnInfoExSize = STM_EITHER(112, 176), /* PrnInfoEx.structSize */
+  PrnInfoSize = 2400                    /* PrnInfo.structSize */
 };
 
-/* Marks an absent number, count, flag word or pointer in the print manager's records, and a field
-   of PrnInfoEx that the comparison skips. */
+/* Marks an absent number, count or flag word in the print manager's records, and a field of
+   PrnInfoEx that the comparison skips. */
 #define STM_ABSENT 0xFFFFFFFFu
+
+/* Marks an absent pointer in the print manager's records, as null does: all ones of its width. To
+   be converted to the pointer's type. */
+#define STM_ABSENT_POINTER UINTPTR_MAX
 
 /* ---- Item nodes ------------------------------------------------------------------------------
    Singly linked lists. Each node is a zero-filled block of its own from GlobalAlloc(64, size);
    `next` is null at the tail, `nodeSize` is the size in bytes. */
 
-typedef struct StatusNode { /* 272 bytes */
-  struct StatusNode* next;  /*   0 */
-  uint32_t nodeSize;        /*   4 */
-  uint16_t code;            /*   8  status code */
-  uint8_t reserved[262];    /*  10 */
+typedef struct StatusNode { /* 272 or 280 bytes */
+  struct StatusNode* next;  /*  0  0 */
+  uint32_t nodeSize;        /*  4  8 */
+  uint16_t code;            /*  8 12  status code */
+  uint8_t reserved[262];    /* 10 14 */
 } StatusNode;
-STM_AT(StatusNode, next, 0, 4);
-STM_AT(StatusNode, nodeSize, 4, 4);
-STM_AT(StatusNode, code, 8, 2);
-STM_AT(StatusNode, reserved, 10, 262);
-STM_SIZE(StatusNode, 272);
+STM_AT(StatusNode, next, 0, sizeof(void*));
+STM_AT(StatusNode, nodeSize, STM_EITHER(4, 8), 4);
+STM_AT(StatusNode, code, STM_EITHER(8, 12), 2);
+STM_AT(StatusNode, reserved, STM_EITHER(10, 14), 262);
+STM_SIZE(StatusNode, STM_EITHER(272, 280));
 
-typedef struct TrayNode { /* 20 bytes */
-  struct TrayNode* next;  /*   0 */
-  uint32_t nodeSize;      /*   4 */
-  uint16_t trayId;        /*   8  1 bypass, 2 multi-purpose, 3 to 7 trays 1 to 5, 10 "MultiA4" */
-  uint16_t paperCode;     /*  10  0 to 41, 50 to 54; 1 no paper, 41 tray missing */
-  uint16_t paperLevel;    /*  12  as the printer reports it; per cent from the print manager */
-  uint8_t reserved[6];    /*  14 */
+typedef struct TrayNode { /* 20 or 24 bytes */
+  struct TrayNode* next;  /*  0  0 */
+  uint32_t nodeSize;      /*  4  8 */
+  uint16_t trayId;        /*  8 12  1 bypass, 2 multi-purpose, 3 to 7 trays 1 to 5, 10 "MultiA4" */
+  uint16_t paperCode;     /* 10 14  0 to 41, 50 to 54; 1 no paper, 41 tray missing */
+  uint16_t paperLevel;    /* 12 16  as the printer reports it; per cent from the print manager */
+  uint8_t reserved[6];    /* 14 18 */
 } TrayNode;
-STM_AT(TrayNode, next, 0, 4);
-STM_AT(TrayNode, nodeSize, 4, 4);
-STM_AT(TrayNode, trayId, 8, 2);
-STM_AT(TrayNode, paperCode, 10, 2);
-STM_AT(TrayNode, paperLevel, 12, 2);
-STM_AT(TrayNode, reserved, 14, 6);
-STM_SIZE(TrayNode, 20);
+STM_AT(TrayNode, next, 0, sizeof(void*));
+STM_AT(TrayNode, nodeSize, STM_EITHER(4, 8), 4);
+STM_AT(TrayNode, trayId, STM_EITHER(8, 12), 2);
+STM_AT(TrayNode, paperCode, STM_EITHER(10, 14), 2);
+STM_AT(TrayNode, paperLevel, STM_EITHER(12, 16), 2);
+STM_AT(TrayNode, reserved, STM_EITHER(14, 18), 6);
+STM_SIZE(TrayNode, STM_EITHER(20, 24));
 
-typedef struct BinNode { /* 12 bytes */
-  struct BinNode* next;  /*   0 */
-  uint32_t nodeSize;     /*   4 */
-  uint16_t binId;        /*   8  1 to 15, 255 unknown */
-  uint16_t binState;     /*  10  as the printer reports it; print manager 1 or 2, network 0 to 2 */
+typedef struct BinNode { /* 12 or 16 bytes */
+  struct BinNode* next;  /*  0  0 */
+  uint32_t nodeSize;     /*  4  8 */
+  uint16_t binId;        /*  8 12  1 to 15, 255 unknown */
+  uint16_t binState; /* 10 14  as the printer reports it; print manager 1 or 2, network 0 to 2 */
 } BinNode;
-STM_AT(BinNode, next, 0, 4);
-STM_AT(BinNode, nodeSize, 4, 4);
-STM_AT(BinNode, binId, 8, 2);
-STM_AT(BinNode, binState, 10, 2);
-STM_SIZE(BinNode, 12);
+STM_AT(BinNode, next, 0, sizeof(void*));
+STM_AT(BinNode, nodeSize, STM_EITHER(4, 8), 4);
+STM_AT(BinNode, binId, STM_EITHER(8, 12), 2);
+STM_AT(BinNode, binState, STM_EITHER(10, 14), 2);
+STM_SIZE(BinNode, STM_EITHER(12, 16));
 
-typedef struct OptionNode { /* 12 bytes */
-  struct OptionNode* next;  /*   0 */
-  uint32_t nodeSize;        /*   4 */
-  uint16_t optionCode;      /*   8  1 duplex unit, 2 to 17, 101 to 106; 0 selects nothing */
-  uint16_t optionValue;     /*  10 */
+typedef struct OptionNode { /* 12 or 16 bytes */
+  struct OptionNode* next;  /*  0  0 */
+  uint32_t nodeSize;        /*  4  8 */
+  uint16_t optionCode;      /*  8 12  1 duplex unit, 2 to 17, 101 to 106; 0 selects nothing */
+  uint16_t optionValue;     /* 10 14 */
 } OptionNode;
-STM_AT(OptionNode, next, 0, 4);
-STM_AT(OptionNode, nodeSize, 4, 4);
-STM_AT(OptionNode, optionCode, 8, 2);
-STM_AT(OptionNode, optionValue, 10, 2);
-STM_SIZE(OptionNode, 12);
+STM_AT(OptionNode, next, 0, sizeof(void*));
+STM_AT(OptionNode, nodeSize, STM_EITHER(4, 8), 4);
+STM_AT(OptionNode, optionCode, STM_EITHER(8, 12), 2);
+STM_AT(OptionNode, optionValue, STM_EITHER(10, 14), 2);
+STM_SIZE(OptionNode, STM_EITHER(12, 16));
 
-typedef struct FontNode { /* 12 bytes */
-  struct FontNode* next;  /*   0 */
-  uint32_t nodeSize;      /*   4 */
-  uint16_t fontCode;      /*   8  1 to 20 */
-  uint16_t reserved;      /*  10 */
+typedef struct FontNode { /* 12 or 16 bytes */
+  struct FontNode* next;  /*  0  0 */
+  uint32_t nodeSize;      /*  4  8 */
+  uint16_t fontCode;      /*  8 12  1 to 20 */
+  uint16_t reserved;      /* 10 14 */
 } FontNode;
-STM_AT(FontNode, next, 0, 4);
-STM_AT(FontNode, nodeSize, 4, 4);
-STM_AT(FontNode, fontCode, 8, 2);
-STM_AT(FontNode, reserved, 10, 2);
-STM_SIZE(FontNode, 12);
+STM_AT(FontNode, next, 0, sizeof(void*));
+STM_AT(FontNode, nodeSize, STM_EITHER(4, 8), 4);
+STM_AT(FontNode, fontCode, STM_EITHER(8, 12), 2);
+STM_AT(FontNode, reserved, STM_EITHER(10, 14), 2);
+STM_SIZE(FontNode, STM_EITHER(12, 16));
 
-typedef struct EmulationNode { /* 28 bytes */
-  struct EmulationNode* next;  /*   0 */
-  uint32_t nodeSize;           /*   4 */
-  uint16_t emulationCode;      /*   8  1 to 14, 0 unknown */
-  uint8_t reserved[18];        /*  10 */
+typedef struct EmulationNode { /* 28 or 32 bytes */
+  struct EmulationNode* next;  /*  0  0 */
+  uint32_t nodeSize;           /*  4  8 */
+  uint16_t emulationCode;      /*  8 12  1 to 14, 0 unknown */
+  uint8_t reserved[18];        /* 10 14 */
 } EmulationNode;
-STM_AT(EmulationNode, next, 0, 4);
-STM_AT(EmulationNode, nodeSize, 4, 4);
-STM_AT(EmulationNode, emulationCode, 8, 2);
-STM_AT(EmulationNode, reserved, 10, 18);
-STM_SIZE(EmulationNode, 28);
+STM_AT(EmulationNode, next, 0, sizeof(void*));
+STM_AT(EmulationNode, nodeSize, STM_EITHER(4, 8), 4);
+STM_AT(EmulationNode, emulationCode, STM_EITHER(8, 12), 2);
+STM_AT(EmulationNode, reserved, STM_EITHER(10, 14), 18);
+STM_SIZE(EmulationNode, STM_EITHER(28, 32));
 
 /* ---- The list-based record -------------------------------------------------------------------
    Zero-filled before the first use. Every string and node is a GlobalAlloc block of its own that
    belongs to the record's owner; the library releases a block only when it replaces it. */
-typedef struct PrnInfoEx {      /* 112 bytes */
-  uint32_t recordTag;           /*   0  404; the readback parser leaves it alone */
-  uint32_t structSize;          /*   4  112 */
-  uint32_t statusCount;         /*   8 */
-  StatusNode* statusList;       /*  12 */
-  char* modelName;              /*  16  NUL-terminated, own block (likewise all strings here) */
-  char* manufacturer;           /*  20 */
-  char* description;            /*  24 */
-  char* versionText1;           /*  28  at most 6 characters in a 7-byte block, from a reply */
-  char* versionText2;           /*  32 */
-  char* versionText3;           /*  36 */
-  uint32_t modelInfoNumber;     /*  40 */
-  uint8_t offline;              /*  44  1 offline; print manager only */
-  uint8_t modelCode;            /*  45  255 unknown */
-  uint8_t online;               /*  46  1 online */
-  uint8_t hasError;             /*  47  1 when a listed status is of the error class */
-  uint8_t printing;             /*  48  1 printing; print manager only */
-  uint8_t noResponse;           /*  49  1 no response; print manager only */
-  uint8_t reserved1[2];         /*  50 */
-  uint32_t emulationCode;       /*  52  printer language in use; STM_ABSENT is not compared */
-  uint32_t emulationCount;      /*  56 */
-  EmulationNode* emulationList; /*  60 */
-  uint32_t fontCount;           /*  64 */
-  FontNode* fontList;           /*  68 */
-  uint32_t currentTray;         /*  72  tray id in use; STM_ABSENT is not compared */
-  uint32_t trayCount;           /*  76 */
-  TrayNode* trayList;           /*  80 */
-  uint32_t currentBin;          /*  84  bin id in use, 0 none told; print manager: position; */
-                                /*      STM_ABSENT is not compared */
-  uint32_t binCount;            /*  88 */
-  BinNode* binList;             /*  92 */
-  uint32_t optionCount;         /*  96  options; a reply does not count nodes of code 0 */
-  OptionNode* optionList;       /* 100 */
-  uint8_t reserved2[8];         /* 104 */
+typedef struct PrnInfoEx {      /* 112 or 176 bytes */
+  uint32_t recordTag;           /*   0   0  PrnInfoExTag; the readback parser leaves it alone */
+  uint32_t structSize;          /*   4   4  PrnInfoExSize */
+  uint32_t statusCount;         /*   8   8 */
+  StatusNode* statusList;       /*  12  16 */
+  char* modelName;              /*  16  24  NUL-terminated, own block (likewise all strings here) */
+  char* manufacturer;           /*  20  32 */
+  char* description;            /*  24  40 */
+  char* versionText1;           /*  28  48  at most 6 characters in a 7-byte block, from a reply */
+  char* versionText2;           /*  32  56 */
+  char* versionText3;           /*  36  64 */
+  uint32_t modelInfoNumber;     /*  40  72 */
+  uint8_t offline;              /*  44  76  1 offline; print manager only */
+  uint8_t modelCode;            /*  45  77  255 unknown */
+  uint8_t online;               /*  46  78  1 online */
+  uint8_t hasError;             /*  47  79  1 when a listed status is of the error class */
+  uint8_t printing;             /*  48  80  1 printing; print manager only */
+  uint8_t noResponse;           /*  49  81  1 no response; print manager only */
+  uint8_t reserved1[2];         /*  50  82 */
+  uint32_t emulationCode;       /*  52  84  printer language in use; STM_ABSENT is not compared */
+  uint32_t emulationCount;      /*  56  88 */
+  EmulationNode* emulationList; /*  60  96 */
+  uint32_t fontCount;           /*  64 104 */
+  FontNode* fontList;           /*  68 112 */
+  uint32_t currentTray;         /*  72 120  tray id in use; STM_ABSENT is not compared */
+  uint32_t trayCount;           /*  76 124 */
+  TrayNode* trayList;           /*  80 128 */
+  uint32_t currentBin;          /*  84 136  bin id in use, 0 none told; print manager: position; */
+                                /*          STM_ABSENT is not compared */
+  uint32_t binCount;            /*  88 140 */
+  BinNode* binList;             /*  92 144 */
+  uint32_t optionCount;         /*  96 152  options; a reply does not count nodes of code 0 */
+  OptionNode* optionList;       /* 100 160 */
+  uint8_t reserved2[8];         /* 104 168 */
 } PrnInfoEx;
 STM_AT(PrnInfoEx, recordTag, 0, 4);
 STM_AT(PrnInfoEx, structSize, 4, 4);
 STM_AT(PrnInfoEx, statusCount, 8, 4);
-STM_AT(PrnInfoEx, statusList, 12, 4);
-STM_AT(PrnInfoEx, modelName, 16, 4);
-STM_AT(PrnInfoEx, manufacturer, 20, 4);
-STM_AT(PrnInfoEx, description, 24, 4);
-STM_AT(PrnInfoEx, versionText1, 28, 4);
-STM_AT(PrnInfoEx, versionText2, 32, 4);
-STM_AT(PrnInfoEx, versionText3, 36, 4);
-STM_AT(PrnInfoEx, modelInfoNumber, 40, 4);
-STM_AT(PrnInfoEx, offline, 44, 1);
-STM_AT(PrnInfoEx, modelCode, 45, 1);
-STM_AT(PrnInfoEx, online, 46, 1);
-STM_AT(PrnInfoEx, hasError, 47, 1);
-STM_AT(PrnInfoEx, printing, 48, 1);
-STM_AT(PrnInfoEx, noResponse, 49, 1);
-STM_AT(PrnInfoEx, reserved1, 50, 2);
-STM_AT(PrnInfoEx, emulationCode, 52, 4);
-STM_AT(PrnInfoEx, emulationCount, 56, 4);
-STM_AT(PrnInfoEx, emulationList, 60, 4);
-STM_AT(PrnInfoEx, fontCount, 64, 4);
-STM_AT(PrnInfoEx, fontList, 68, 4);
-STM_AT(PrnInfoEx, currentTray, 72, 4);
-STM_AT(PrnInfoEx, trayCount, 76, 4);
-STM_AT(PrnInfoEx, trayList, 80, 4);
-STM_AT(PrnInfoEx, currentBin, 84, 4);
-STM_AT(PrnInfoEx, binCount, 88, 4);
-STM_AT(PrnInfoEx, binList, 92, 4);
-STM_AT(PrnInfoEx, optionCount, 96, 4);
-STM_AT(PrnInfoEx, optionList, 100, 4);
-STM_AT(PrnInfoEx, reserved2, 104, 8);
-STM_SIZE(PrnInfoEx, 112);
+STM_AT(PrnInfoEx, statusList, STM_EITHER(12, 16), sizeof(void*));
+STM_AT(PrnInfoEx, modelName, STM_EITHER(16, 24), sizeof(void*));
+STM_AT(PrnInfoEx, manufacturer, STM_EITHER(20, 32), sizeof(void*));
+STM_AT(PrnInfoEx, description, STM_EITHER(24, 40), sizeof(void*));
+STM_AT(PrnInfoEx, versionText1, STM_EITHER(28, 48), sizeof(void*));
+STM_AT(PrnInfoEx, versionText2, STM_EITHER(32, 56), sizeof(void*));
+STM_AT(PrnInfoEx, versionText3, STM_EITHER(36, 64), sizeof(void*));
+STM_AT(PrnInfoEx, modelInfoNumber, STM_EITHER(40, 72), 4);
+STM_AT(PrnInfoEx, offline, STM_EITHER(44, 76), 1);
+STM_AT(PrnInfoEx, modelCode, STM_EITHER(45, 77), 1);
+STM_AT(PrnInfoEx, online, STM_EITHER(46, 78), 1);
+STM_AT(PrnInfoEx, hasError, STM_EITHER(47, 79), 1);
+STM_AT(PrnInfoEx, printing, STM_EITHER(48, 80), 1);
+STM_AT(PrnInfoEx, noResponse, STM_EITHER(49, 81), 1);
+STM_AT(PrnInfoEx, reserved1, STM_EITHER(50, 82), 2);
+STM_AT(PrnInfoEx, emulationCode, STM_EITHER(52, 84), 4);
+STM_AT(PrnInfoEx, emulationCount, STM_EITHER(56, 88), 4);
+STM_AT(PrnInfoEx, emulationList, STM_EITHER(60, 96), sizeof(void*));
+STM_AT(PrnInfoEx, fontCount, STM_EITHER(64, 104), 4);
+STM_AT(PrnInfoEx, fontList, STM_EITHER(68, 112), sizeof(void*));
+STM_AT(PrnInfoEx, currentTray, STM_EITHER(72, 120), 4);
+STM_AT(PrnInfoEx, trayCount, STM_EITHER(76, 124), 4);
+STM_AT(PrnInfoEx, trayList, STM_EITHER(80, 128), sizeof(void*));
+STM_AT(PrnInfoEx, currentBin, STM_EITHER(84, 136), 4);
+STM_AT(PrnInfoEx, binCount, STM_EITHER(88, 140), 4);
+STM_AT(PrnInfoEx, binList, STM_EITHER(92, 144), sizeof(void*));
+STM_AT(PrnInfoEx, optionCount, STM_EITHER(96, 152), 4);
+STM_AT(PrnInfoEx, optionList, STM_EITHER(100, 160), sizeof(void*));
+STM_AT(PrnInfoEx, reserved2, STM_EITHER(104, 168), 8);
+STM_SIZE(PrnInfoEx, STM_EITHER(112, 176));
 
 /* A PrnInfoEx whose Device ID fields are filled; not a layout of its own. */
 typedef PrnInfoEx ModelInfoEx;
@@ -358,15 +366,15 @@ STM_AT(StatusRow, level, 8, 4);
 STM_AT(StatusRow, detailId, 12, 4);
 STM_SIZE(StatusRow, 16);
 
-typedef struct PrnPart {  /* 12 bytes */
-  const char* bitmapName; /*   0  resource name, in the library's constant data */
-  uint32_t ropSet;        /*   4  raster operation when its flag is set */
-  uint32_t ropClear;      /*   8  raster operation when its flag is clear */
+typedef struct PrnPart {  /* 12 or 16 bytes */
+  const char* bitmapName; /*  0  0  resource name, in the library's constant data */
+  uint32_t ropSet;        /*  4  8  raster operation when its flag is set */
+  uint32_t ropClear;      /*  8 12  raster operation when its flag is clear */
 } PrnPart;
-STM_AT(PrnPart, bitmapName, 0, 4);
-STM_AT(PrnPart, ropSet, 4, 4);
-STM_AT(PrnPart, ropClear, 8, 4);
-STM_SIZE(PrnPart, 12);
+STM_AT(PrnPart, bitmapName, 0, sizeof(void*));
+STM_AT(PrnPart, ropSet, STM_EITHER(4, 8), 4);
+STM_AT(PrnPart, ropClear, STM_EITHER(8, 12), 4);
+STM_SIZE(PrnPart, STM_EITHER(12, 16));
 
 typedef struct PrnBitmap {    /* 36 bytes */
   uint8_t reserved[4];        /*   0  neither read nor written */
@@ -417,71 +425,71 @@ enum {
   PMStatusNoResponse = 0x01000000
 };
 
-typedef struct PMModelInfo { /* 12 bytes */
-  const char* modelName;     /*   0 */
-  const char* versionText;   /*   4  the first version text */
-  uint32_t number;           /*   8 */
+typedef struct PMModelInfo { /* 12 or 24 bytes */
+  const char* modelName;     /*  0  0 */
+  const char* versionText;   /*  4  8  the first version text */
+  uint32_t number;           /*  8 16 */
 } PMModelInfo;
-STM_AT(PMModelInfo, modelName, 0, 4);
-STM_AT(PMModelInfo, versionText, 4, 4);
-STM_AT(PMModelInfo, number, 8, 4);
-STM_SIZE(PMModelInfo, 12);
+STM_AT(PMModelInfo, modelName, 0, sizeof(void*));
+STM_AT(PMModelInfo, versionText, STM_EITHER(4, 8), sizeof(void*));
+STM_AT(PMModelInfo, number, STM_EITHER(8, 16), 4);
+STM_SIZE(PMModelInfo, STM_EITHER(12, 24));
 
-typedef struct PMItemGroup { /* 12 bytes */
-  uint32_t count;            /*   0  number of items */
-  const void* const* items;  /*   4  `count` pointers to PMInputTray, PMOutputBin, ... */
-  uint32_t current;          /*   8  the item in use: trays and bins from 1, languages from 0 */
+typedef struct PMItemGroup { /* 12 or 24 bytes */
+  uint32_t count;            /*  0  0  number of items */
+  const void* const* items;  /*  4  8  `count` pointers to PMInputTray, PMOutputBin, ... */
+  uint32_t current;          /*  8 16  the item in use: trays and bins from 1, languages from 0 */
 } PMItemGroup;
 STM_AT(PMItemGroup, count, 0, 4);
-STM_AT(PMItemGroup, items, 4, 4);
-STM_AT(PMItemGroup, current, 8, 4);
-STM_SIZE(PMItemGroup, 12);
+STM_AT(PMItemGroup, items, STM_EITHER(4, 8), sizeof(void*));
+STM_AT(PMItemGroup, current, STM_EITHER(8, 16), 4);
+STM_SIZE(PMItemGroup, STM_EITHER(12, 24));
 
 /* levelFlags, the first that holds: 0x12 gives level 0, 0x100 10, 0x200 25, 0x400 50, 0x800 75,
    else and when absent 100 per cent. */
-typedef struct PMInputTray { /* 28 bytes */
-  const char* name;          /*   0 */
-  uint32_t levelFlags;       /*   4 */
-  uint32_t reserved;         /*   8  not read */
-  const char* paperName;     /*  12 */
-  const char* altName;       /*  16  tried when `name` is absent */
-  uint32_t paperWidth;       /*  20  millimetres */
-  uint32_t paperLength;      /*  24  millimetres */
+typedef struct PMInputTray { /* 28 or 40 bytes */
+  const char* name;          /*  0  0 */
+  uint32_t levelFlags;       /*  4  8 */
+  uint32_t reserved;         /*  8 12  not read */
+  const char* paperName;     /* 12 16 */
+  const char* altName;       /* 16 24  tried when `name` is absent */
+  uint32_t paperWidth;       /* 20 32  millimetres */
+  uint32_t paperLength;      /* 24 36  millimetres */
 } PMInputTray;
-STM_AT(PMInputTray, name, 0, 4);
-STM_AT(PMInputTray, levelFlags, 4, 4);
-STM_AT(PMInputTray, reserved, 8, 4);
-STM_AT(PMInputTray, paperName, 12, 4);
-STM_AT(PMInputTray, altName, 16, 4);
-STM_AT(PMInputTray, paperWidth, 20, 4);
-STM_AT(PMInputTray, paperLength, 24, 4);
-STM_SIZE(PMInputTray, 28);
+STM_AT(PMInputTray, name, 0, sizeof(void*));
+STM_AT(PMInputTray, levelFlags, STM_EITHER(4, 8), 4);
+STM_AT(PMInputTray, reserved, STM_EITHER(8, 12), 4);
+STM_AT(PMInputTray, paperName, STM_EITHER(12, 16), sizeof(void*));
+STM_AT(PMInputTray, altName, STM_EITHER(16, 24), sizeof(void*));
+STM_AT(PMInputTray, paperWidth, STM_EITHER(20, 32), 4);
+STM_AT(PMInputTray, paperLength, STM_EITHER(24, 36), 4);
+STM_SIZE(PMInputTray, STM_EITHER(28, 40));
 
-typedef struct PMOutputBin { /* 12 bytes */
-  const char* name;          /*   0 */
-  uint32_t stateFlags;       /*   4  bit 0 selects bin state 2 */
-  const char* altName;       /*   8  tried when `name` is absent */
+typedef struct PMOutputBin { /* 12 or 24 bytes */
+  const char* name;          /*  0  0 */
+  uint32_t stateFlags;       /*  4  8  bit 0 selects bin state 2 */
+  const char* altName;       /*  8 16  tried when `name` is absent */
 } PMOutputBin;
-STM_AT(PMOutputBin, name, 0, 4);
-STM_AT(PMOutputBin, stateFlags, 4, 4);
-STM_AT(PMOutputBin, altName, 8, 4);
-STM_SIZE(PMOutputBin, 12);
+STM_AT(PMOutputBin, name, 0, sizeof(void*));
+STM_AT(PMOutputBin, stateFlags, STM_EITHER(4, 8), 4);
+STM_AT(PMOutputBin, altName, STM_EITHER(8, 16), sizeof(void*));
+STM_SIZE(PMOutputBin, STM_EITHER(12, 24));
 
-typedef struct PMEmulation { /* 12 bytes */
-  const char* name;          /*   0 */
-  const char* versionText;   /*   4 */
-  const char* altName;       /*   8  tried when `name` is absent */
+typedef struct PMEmulation { /* 12 or 24 bytes */
+  const char* name;          /*  0  0 */
+  const char* versionText;   /*  4  8 */
+  const char* altName;       /*  8 16  tried when `name` is absent */
 } PMEmulation;
-STM_AT(PMEmulation, name, 0, 4);
-STM_AT(PMEmulation, versionText, 4, 4);
-STM_AT(PMEmulation, altName, 8, 4);
-STM_SIZE(PMEmulation, 12);
+STM_AT(PMEmulation, name, 0, sizeof(void*));
+STM_AT(PMEmulation, versionText, STM_EITHER(4, 8), sizeof(void*));
+STM_AT(PMEmulation, altName, STM_EITHER(8, 16), sizeof(void*));
+STM_SIZE(PMEmulation, STM_EITHER(12, 24));
 
-typedef struct PMFont { /* 4 bytes */
-  const char* name;     /*   0 */
+typedef struct PMFont { /* 4 or 8 bytes */
+  const char* name;     /*  0  0 */
 } PMFont;
-STM_AT(PMFont, name, 0, 4);
-STM_SIZE(PMFont, 4);
+STM_AT(PMFont, name, 0, sizeof(void*));
+STM_SIZE(PMFont, STM_EITHER(4, 8));
 
 typedef struct PMOption { /* 4 bytes */
   uint32_t deviceCode;    /*   0  163 option tray, 164 duplex unit */
@@ -497,76 +505,76 @@ STM_AT(PMStatusItem, reserved, 0, 4);
 STM_AT(PMStatusItem, code, 4, 4);
 STM_SIZE(PMStatusItem, 8);
 
-typedef struct PMPrnInfo {           /* 68 bytes are read at most */
-  uint32_t reserved1;                /*   0  not read (likewise all reserved fields) */
-  const PMStatusInfo* statusInfo;    /*   4  groups 0x2 and 0x80000 */
-  const PMModelInfo* modelInfo;      /*   8  group 0x4 */
-  const PMItemGroup* inputTrayInfo;  /*  12  group 0x8, PMInputTray */
-  const PMItemGroup* outputBinInfo;  /*  16  group 0x10, PMOutputBin */
-  uint32_t reserved2[3];             /*  20 */
-  const PMItemGroup* fontInfo;       /*  32  group 0x200, PMFont */
-  const PMItemGroup* emulationInfo;  /*  36  group 0x100, PMEmulation */
-  uint32_t reserved3[4];             /*  40 */
-  const PMItemGroup* optionInfo;     /*  56  group 0x20000, PMOption */
-  uint32_t reserved4;                /*  60 */
-  const PMItemGroup* statusListInfo; /*  64  group 0x80000, PMStatusItem */
+typedef struct PMPrnInfo {           /* 68 or 112 bytes are read at most */
+  uint32_t reserved1;                /*   0   0  not read (likewise all reserved fields) */
+  const PMStatusInfo* statusInfo;    /*   4   8  groups 0x2 and 0x80000 */
+  const PMModelInfo* modelInfo;      /*   8  16  group 0x4 */
+  const PMItemGroup* inputTrayInfo;  /*  12  24  group 0x8, PMInputTray */
+  const PMItemGroup* outputBinInfo;  /*  16  32  group 0x10, PMOutputBin */
+  uint32_t reserved2[3];             /*  20  40 */
+  const PMItemGroup* fontInfo;       /*  32  56  group 0x200, PMFont */
+  const PMItemGroup* emulationInfo;  /*  36  64  group 0x100, PMEmulation */
+  uint32_t reserved3[4];             /*  40  72 */
+  const PMItemGroup* optionInfo;     /*  56  88  group 0x20000, PMOption */
+  uint32_t reserved4;                /*  60  96 */
+  const PMItemGroup* statusListInfo; /*  64 104  group 0x80000, PMStatusItem */
 } PMPrnInfo;
 STM_AT(PMPrnInfo, reserved1, 0, 4);
-STM_AT(PMPrnInfo, statusInfo, 4, 4);
-STM_AT(PMPrnInfo, modelInfo, 8, 4);
-STM_AT(PMPrnInfo, inputTrayInfo, 12, 4);
-STM_AT(PMPrnInfo, outputBinInfo, 16, 4);
-STM_AT(PMPrnInfo, reserved2, 20, 12);
-STM_AT(PMPrnInfo, fontInfo, 32, 4);
-STM_AT(PMPrnInfo, emulationInfo, 36, 4);
-STM_AT(PMPrnInfo, reserved3, 40, 16);
-STM_AT(PMPrnInfo, optionInfo, 56, 4);
-STM_AT(PMPrnInfo, reserved4, 60, 4);
-STM_AT(PMPrnInfo, statusListInfo, 64, 4);
-STM_SIZE(PMPrnInfo, 68);
+STM_AT(PMPrnInfo, statusInfo, STM_EITHER(4, 8), sizeof(void*));
+STM_AT(PMPrnInfo, modelInfo, STM_EITHER(8, 16), sizeof(void*));
+STM_AT(PMPrnInfo, inputTrayInfo, STM_EITHER(12, 24), sizeof(void*));
+STM_AT(PMPrnInfo, outputBinInfo, STM_EITHER(16, 32), sizeof(void*));
+STM_AT(PMPrnInfo, reserved2, STM_EITHER(20, 40), 12);
+STM_AT(PMPrnInfo, fontInfo, STM_EITHER(32, 56), sizeof(void*));
+STM_AT(PMPrnInfo, emulationInfo, STM_EITHER(36, 64), sizeof(void*));
+STM_AT(PMPrnInfo, reserved3, STM_EITHER(40, 72), 16);
+STM_AT(PMPrnInfo, optionInfo, STM_EITHER(56, 88), sizeof(void*));
+STM_AT(PMPrnInfo, reserved4, STM_EITHER(60, 96), 4);
+STM_AT(PMPrnInfo, statusListInfo, STM_EITHER(64, 104), sizeof(void*));
+STM_SIZE(PMPrnInfo, STM_EITHER(68, 112));
 
 /* ---- The network layer's lists ---------------------------------------------------------------
    Built by the caller, only read by the library. A null entry pointer is an absent entry. */
 
 /* flags, the first that holds: 0x2 gives level 1 (no paper), 0x4 41 (tray missing), 0x100 and 0x200
    25, 0x400 50, 0x800 75, else 100 per cent. */
-typedef struct NetTrayEntry { /* 12 bytes */
-  const char* name;           /*   0 */
-  uint32_t flags;             /*   4 */
-  const char* mediaName;      /*   8 */
+typedef struct NetTrayEntry { /* 12 or 24 bytes */
+  const char* name;           /*  0  0 */
+  uint32_t flags;             /*  4  8 */
+  const char* mediaName;      /*  8 16 */
 } NetTrayEntry;
-STM_AT(NetTrayEntry, name, 0, 4);
-STM_AT(NetTrayEntry, flags, 4, 4);
-STM_AT(NetTrayEntry, mediaName, 8, 4);
-STM_SIZE(NetTrayEntry, 12);
+STM_AT(NetTrayEntry, name, 0, sizeof(void*));
+STM_AT(NetTrayEntry, flags, STM_EITHER(4, 8), 4);
+STM_AT(NetTrayEntry, mediaName, STM_EITHER(8, 16), sizeof(void*));
+STM_SIZE(NetTrayEntry, STM_EITHER(12, 24));
 
-typedef struct NetBinEntry { /* 8 bytes */
-  const char* name;          /*   0 */
-  uint32_t flags;            /*   4  low byte: 0x1 gives bin state 2, else 0x2 gives 1, else 0 */
+typedef struct NetBinEntry { /* 8 or 16 bytes */
+  const char* name;          /*  0  0 */
+  uint32_t flags;            /*  4  8  low byte: 0x1 gives bin state 2, else 0x2 gives 1, else 0 */
 } NetBinEntry;
-STM_AT(NetBinEntry, name, 0, 4);
-STM_AT(NetBinEntry, flags, 4, 4);
-STM_SIZE(NetBinEntry, 8);
+STM_AT(NetBinEntry, name, 0, sizeof(void*));
+STM_AT(NetBinEntry, flags, STM_EITHER(4, 8), 4);
+STM_SIZE(NetBinEntry, STM_EITHER(8, 16));
 
-typedef struct NetOptionEntry { /* 4 bytes */
-  const char* name;             /*   0 */
+typedef struct NetOptionEntry { /* 4 or 8 bytes */
+  const char* name;             /*  0  0 */
 } NetOptionEntry;
-STM_AT(NetOptionEntry, name, 0, 4);
-STM_SIZE(NetOptionEntry, 4);
+STM_AT(NetOptionEntry, name, 0, sizeof(void*));
+STM_SIZE(NetOptionEntry, STM_EITHER(4, 8));
 
 enum { NetModeTrays = 1, NetModeBins = 2, NetModeOptions = 3 };
 
-typedef struct NetInfoList {                  /* 16 bytes */
-  int32_t entryCount;                         /*   0  0 or less: none */
-  int32_t currentIndex;                       /*   4  1-based entry in use */
-  const NetOptionEntry* const* optionEntries; /*   8  mode 3 */
-  const void* const* entries;                 /*  12  NetTrayEntry (1) or NetBinEntry (2) */
+typedef struct NetInfoList {                  /* 16 or 24 bytes */
+  int32_t entryCount;                         /*  0  0  0 or less: none */
+  int32_t currentIndex;                       /*  4  4  1-based entry in use */
+  const NetOptionEntry* const* optionEntries; /*  8  8  mode 3 */
+  const void* const* entries;                 /* 12 16  NetTrayEntry (1) or NetBinEntry (2) */
 } NetInfoList;
 STM_AT(NetInfoList, entryCount, 0, 4);
 STM_AT(NetInfoList, currentIndex, 4, 4);
-STM_AT(NetInfoList, optionEntries, 8, 4);
-STM_AT(NetInfoList, entries, 12, 4);
-STM_SIZE(NetInfoList, 16);
+STM_AT(NetInfoList, optionEntries, 8, sizeof(void*));
+STM_AT(NetInfoList, entries, STM_EITHER(12, 16), sizeof(void*));
+STM_SIZE(NetInfoList, STM_EITHER(16, 24));
 
 #ifdef __cplusplus
 } /* extern "C" */

@@ -15,8 +15,7 @@ namespace {
 // filled before the old one goes, so that a caller may hand in the record's own string.
 void ReplaceText(char** field, const char* text, size_t least = 0) {
   const size_t bytes = std::strlen(text) + 1;
-  const size_t room = bytes < least ? least : bytes;
-  auto* block = static_cast<char*>(GlobalAlloc(GPTR, static_cast<uint32_t>(room)));
+  auto* block = static_cast<char*>(GlobalAlloc(GPTR, bytes < least ? least : bytes));
   if (block) std::memcpy(block, text, bytes);
   GlobalFree(*field);
   *field = block;

@@ -9,7 +9,7 @@ namespace stm {
 
 // Absent is null or all-ones for pointers, all-ones for numbers.
 inline bool IsPresent(const void* pointer) {
-  return pointer && reinterpret_cast<uintptr_t>(pointer) != STM_ABSENT;
+  return pointer && reinterpret_cast<uintptr_t>(pointer) != STM_ABSENT_POINTER;
 }
 
 inline bool IsPresent(uint32_t number) {

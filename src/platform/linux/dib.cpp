@@ -49,8 +49,13 @@ Stroke StrokeOf(const Operation& operation, uint32_t color) {
 // One stroke more than a byte can select: the black of pixels that the bytes leave out.
 constexpr uint32_t kMissing = 256;
 
-// Combines the pixels of a long run. The arguments travel in registers.
+// Combines the pixels of a long run. The arguments travel in registers, in 32 bits only when asked
+// to.
+#ifdef __i386__
 #define STM_BRUSH __attribute__((regparm(3))) void
+#else
+#define STM_BRUSH void
+#endif
 using Brush = STM_BRUSH (*)(uint32_t* pixel, int32_t count, const Stroke& stroke);
 
 struct Painter {
@@ -124,13 +129,21 @@ __attribute__((always_inline)) inline void PaintBlocks(uint32_t* pixel, int32_t 
 // The shortest run for a brush.
 constexpr int32_t kLongRun = kWidestBlock;
 
-__attribute__((target("avx2"))) STM_BRUSH BrushEights(uint32_t* pixel, int32_t count,
-                                                      const Stroke& stroke) {
+// A function for processors that have what the build does not ask for, and whether this one has it.
+// Other architectures have all that is needed here in every processor.
+#if defined(__i386__) || defined(__x86_64__)
+#define STM_PROCESSOR(feature) __attribute__((target(feature)))
+#define STM_PROCESSOR_HAS(feature) __builtin_cpu_supports(feature)
+#else
+#define STM_PROCESSOR(feature)
+#define STM_PROCESSOR_HAS(feature) true
+#endif
+
+STM_PROCESSOR("avx2") STM_BRUSH BrushEights(uint32_t* pixel, int32_t count, const Stroke& stroke) {
   PaintBlocks<Eight>(pixel, count, stroke);
 }
 
-__attribute__((target("sse2"))) STM_BRUSH BrushFours(uint32_t* pixel, int32_t count,
-                                                     const Stroke& stroke) {
+STM_PROCESSOR("sse2") STM_BRUSH BrushFours(uint32_t* pixel, int32_t count, const Stroke& stroke) {
   PaintBlocks<Four>(pixel, count, stroke);
 }
 
@@ -141,8 +154,8 @@ STM_BRUSH BrushSingles(uint32_t* pixel, int32_t count, const Stroke& stroke) {
 
 // The build asks for no particular processor: the brush is chosen where it runs.
 Brush ChooseBrush(uint32_t widestBlock) {
-  if (widestBlock >= 8 && __builtin_cpu_supports("avx2")) return BrushEights;
-  return widestBlock >= 4 && __builtin_cpu_supports("sse2") ? BrushFours : BrushSingles;
+  if (widestBlock >= 8 && STM_PROCESSOR_HAS("avx2")) return BrushEights;
+  return widestBlock >= 4 && STM_PROCESSOR_HAS("sse2") ? BrushFours : BrushSingles;
 }
 
 void PaintPixels(const Painter& painter, uint32_t* pixel, int32_t count, const Stroke& stroke) {

@@ -44,7 +44,7 @@ bool EnterObject(Object* object, Kind kind) {
 }
 
 Object* FindObject(const void* handle, Kind kind) {
-  const auto number = static_cast<uint32_t>(reinterpret_cast<uintptr_t>(handle));
+  const auto number = reinterpret_cast<uintptr_t>(handle);
   const Entry& entry = table[number % kMostHandles];
   if (number == 0 || entry.handle.load(std::memory_order_acquire) != number) return nullptr;
   if (entry.kind.load(std::memory_order_relaxed) != kind) return nullptr;

@@ -41,7 +41,7 @@ T* Find(const void* handle) {
 // Null for null.
 template <class Handle>
 Handle HandleOf(const Object* object) {
-  return reinterpret_cast<Handle>(object ? object->handle : 0);
+  return reinterpret_cast<Handle>(uintptr_t{object ? object->handle : 0});
 }
 
 }  // namespace stm

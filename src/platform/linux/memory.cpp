@@ -18,7 +18,7 @@ void STM_CALL SetLastError(DWORD code) {
 }
 
 // Always zero-filled: a caller that forgot GMEM_ZEROINIT must not see another block's bytes.
-HGLOBAL STM_CALL GlobalAlloc(UINT, uint32_t bytes) {
+HGLOBAL STM_CALL GlobalAlloc(UINT, size_t bytes) {
   return std::calloc(bytes ? bytes : 1, 1);
 }
 

@@ -8,4 +8,4 @@ stmResourceImage:
     .globl stmResourceImageEnd
     .hidden stmResourceImageEnd
 stmResourceImageEnd:
-    .section .note.GNU-stack, "", @progbits
+    .section .note.GNU-stack, "", %progbits

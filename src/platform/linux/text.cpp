@@ -45,6 +45,10 @@ int32_t FailWith(DWORD systemError) {
   return 0;
 }
 
+// Of bytes or units. The result of a conversion, at most two bytes a unit, is told as a positive
+// 32-bit number; a 64-bit process can have longer texts.
+constexpr size_t kLongestText = INT32_MAX / 2;
+
 uint32_t CountBytes(const CodePage& page, const uint16_t* units, uint32_t count) {
   uint32_t bytes = 0;
   for (uint32_t unit = 0; unit < count; ++unit)
@@ -93,13 +97,13 @@ int32_t STM_CALL WideCharToMultiByte(UINT codePage, DWORD flags, const WCHAR* un
       usedDefault)
     return FailWith(ERROR_INVALID_PARAMETER);
   if (flags != 0) return FailWith(ERROR_INVALID_FLAGS);
-  uint32_t length = 0;
-  if (count > 0) {
-    length = static_cast<uint32_t>(count);
-  } else {
-    while (units[length++] != 0) {
+  size_t whole = static_cast<size_t>(count);
+  if (count < 0) {
+    for (whole = 0; units[whole++] != 0;) {
     }
   }
+  if (whole > kLongestText) return FailWith(ERROR_INVALID_PARAMETER);
+  const auto length = static_cast<uint32_t>(whole);
   if (size == 0) return static_cast<int32_t>(CountBytes(*page, units, length));
   const Conversion done = Convert(*page, units, length, buffer, static_cast<uint32_t>(size));
   if (done.units < length) return FailWith(ERROR_INSUFFICIENT_BUFFER);
@@ -113,8 +117,9 @@ int32_t STM_CALL MultiByteToWideChar(UINT codePage, DWORD flags, const char* tex
   if (!page || !text || count == 0 || size < 0 || (size > 0 && !buffer))
     return FailWith(ERROR_INVALID_PARAMETER);
   if (flags != 0) return FailWith(ERROR_INVALID_FLAGS);
-  const auto length =
-      count > 0 ? static_cast<uint32_t>(count) : static_cast<uint32_t>(std::strlen(text) + 1);
+  const size_t whole = count > 0 ? static_cast<size_t>(count) : std::strlen(text) + 1;
+  if (whole > kLongestText) return FailWith(ERROR_INVALID_PARAMETER);
+  const auto length = static_cast<uint32_t>(whole);
   int32_t written = 0;
   for (uint32_t at = 0; at < length; ++written) {
     if (size > 0 && written == size) return FailWith(ERROR_INSUFFICIENT_BUFFER);
