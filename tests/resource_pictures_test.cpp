@@ -18,7 +18,7 @@ TEST_CASE("bitmaps load by name, in any case, and belong to the caller") {
     REQUIRE(first);
     CHECK(first != second);
     CHECK(DeleteObject(first));
-    CHECK(GetObjectA(second, sizeof size, &size) == 24);
+    CHECK(GetObjectA(second, sizeof size, &size) == sizeof size);
     CHECK(size.bmWidth == row.side[0]);
     CHECK(size.bmHeight == row.side[1]);
     CHECK(size.bmPlanes == 1);

@@ -33,10 +33,10 @@ TEST_CASE("a fresh list has a node at least, each of its own size") {
   TrayNode* one = stm::AllocItemList<TrayNode>(0);
   REQUIRE(one);
   CHECK(one->next == nullptr);
-  CHECK(one->nodeSize == 20);
+  CHECK(one->nodeSize == sizeof(TrayNode));
   CHECK(stm::FreeItemList(one) == nullptr);
   OptionNode* three = stm::AllocItemList<OptionNode>(3);
-  CHECK(test::Values(three, &OptionNode::nodeSize) == Codes{12, 12, 12});
+  CHECK(test::Values(three, &OptionNode::nodeSize) == Codes(3, sizeof(OptionNode)));
   CHECK(stm::CountItems(three) == 3);
   stm::FreeItemList(three);
   CHECK(stm::FreePrnInfoEx(nullptr) == 2);

@@ -21,7 +21,7 @@ struct Dialog {
 };
 
 template <class Handle>
-Handle Foreign(uint32_t value) {
+Handle Foreign(uintptr_t value) {
   return reinterpret_cast<Handle>(value);
 }
 
@@ -105,9 +105,9 @@ TEST_CASE("a blit takes the selected bitmap, the stock one of a black pixel at f
   CHECK_FALSE(SelectObject(source, bitmap));
   BITMAP size;
   CHECK(DeleteObject(stock));
-  CHECK(GetObjectA(stock, 23, &size) == 0);
-  CHECK(GetObjectA(stock, 0, nullptr) == 24);
-  CHECK(GetObjectA(stock, sizeof size, &size) == 24);
+  CHECK(GetObjectA(stock, sizeof size - 1, &size) == 0);
+  CHECK(GetObjectA(stock, 0, nullptr) == STM_EITHER(24, 32));
+  CHECK(GetObjectA(stock, sizeof size, &size) == STM_EITHER(24, 32));
   CHECK(SelectObject(source, stock) == stock);
   CHECK(size.bmWidth == 1);
   CHECK(DeleteDC(source));
@@ -124,13 +124,19 @@ TEST_CASE("handles that are none are refused") {
   Dialog dialog(4, 1);
   const HDC target = GetDC(dialog.control());
   const HDC source = CreateCompatibleDC(target);
+  const HBITMAP bitmap = stm::LoadModuleBitmap("BMP_P_BASE");
   const auto icon = reinterpret_cast<uintptr_t>(stm::LoadModuleIcon("ICO_ONLINE"));
   const auto resource = reinterpret_cast<uintptr_t>(PatFindResource("BMP_P_BASE"));
   const auto own = reinterpret_cast<uintptr_t>(&dialog);
+  // Handles of ours but for their upper half, where there is one.
+  const auto above = [](const void* handle) -> uintptr_t {
+    return sizeof handle > 4 ? reinterpret_cast<uintptr_t>(handle) + (uint64_t{1} << 32) : 0;
+  };
   char buffer[64];
   uint32_t pixels[1024];
   for (const uintptr_t value :
-       {uintptr_t{0}, icon, resource, own, uintptr_t{0xFFFFFFFF}, uintptr_t{0x1000}}) {
+       {uintptr_t{0}, icon, resource, own, uintptr_t{0xFFFFFFFF}, uintptr_t{0x1000},
+        above(dialog.control()), above(target), above(source), above(bitmap)}) {
     CAPTURE(value);
     CHECK_FALSE(DeleteObject(Foreign<HGDIOBJ>(value)));
     CHECK_FALSE(GetObjectA(Foreign<HGDIOBJ>(value), sizeof buffer, buffer));
@@ -150,6 +156,7 @@ TEST_CASE("handles that are none are refused") {
   }
   CHECK(dialog.pixels()[0] == 0x00FFFFFF);
   DeleteDC(source);
+  DeleteObject(bitmap);
   ReleaseDC(dialog.control(), target);
 }
 
