@@ -1,6 +1,8 @@
 // The system's last error, for the calls that report there and not in the library's own.
 #pragma once
 
+#include <cstdint>
+
 #include "platform/windows_api.h"
 
 namespace stm {
