@@ -3,20 +3,10 @@
 #include <string>
 #include <vector>
 
+#include "stmdata/languages.h"
 #include "stmdata/stmdata.h"
 
 namespace {
-
-struct Language {
-  const char* name;  // for PatSetLocale
-  UINT codePage;     // of the texts that it gives
-};
-
-constexpr Language kLanguages[] = {
-    {"EN", 1252}, {"DE", 1252}, {"FR", 1252}, {"IT", 1252}, {"ES", 1252},
-    {"NL", 1252}, {"SV", 1252}, {"DA", 1252}, {"NO", 1252}, {"CS", 1250},
-    {"HU", 1250}, {"PT", 1252}, {"PL", 1250}, {"FI", 1252}, {"JP", 932},
-};
 
 std::vector<WCHAR> Utf16(const std::string& text, UINT codePage) {
   const int length = MultiByteToWideChar(codePage, 0, text.c_str(), -1, nullptr, 0);
@@ -55,14 +45,14 @@ int main() {
   record.online = 1;
   record.hasError = 1;
 
-  for (const Language& language : kLanguages) {
-    std::string name = language.name;  // PatSetLocale writes capitals into it
-    PatSetLocale(name.data());
+  for (const LocaleRow& language : LocaleTable) {
+    std::string code = language.code;  // PatSetLocale writes capitals into it
+    PatSetLocale(code.data());
     char shortText[128];
     char detail[512];
     if (!PatGetSimpleString_Ex(&record, shortText, sizeof shortText)) return 1;
     if (!PatGetDetailString_Ex(&record, detail, sizeof detail)) return 1;
-    std::printf("%s  %s\n", language.name, Utf8(shortText, language.codePage).c_str());
+    std::printf("%s  %s\n", language.code, Utf8(shortText, language.codePage).c_str());
     std::string lines = Utf8(detail, language.codePage);
     for (size_t at = 0; (at = lines.find('\n', at)) != std::string::npos; at += 5)
       lines.replace(at, 1, "\n    ");

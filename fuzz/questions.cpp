@@ -110,11 +110,9 @@ void AskDeviceName(uint32_t device, uint32_t capacity) {
 
 extern "C" int LLVMFuzzerTestOneInput(const uint8_t* data, size_t size) {
   Source source(data, size);
-  static const char* const kLanguages[] = {"EN", "DE", "FR", "IT", "ES", "NL", "SV", "DA",
-                                           "NO", "CS", "HU", "PT", "PL", "FI", "JP", "xx"};
-  char language[] = "??";
-  std::memcpy(language, kLanguages[source.Below(16)], 2);
-  PatSetLocale(language);
+  const uint32_t row = source.Below(std::size(LocaleTable) + 1);
+  std::string language = row < std::size(LocaleTable) ? LocaleTable[row].code : "xx";
+  PatSetLocale(language.data());
   Numbers numbers;
   numbers.code = source.Number();
   numbers.size = source.Below(2) ? source.Below(64) : source.Byte() * 4u;

@@ -3,6 +3,7 @@
 
 #include "both_records.h"
 #include "doctest/doctest.h"
+#include "stmdata/languages.h"
 #include "thread_language.h"
 
 namespace {
@@ -230,10 +231,9 @@ TEST_CASE("the detail question leaves the chosen code in a flat record's only st
 TEST_CASE("every status has its texts in every language") {
   // Texts that Japanese alone has.
   const std::vector<uint32_t> japaneseOnly = {404, 434, 600, 604, 634, 682, 687, 689, 690};
-  for (const char* language :
-       {"EN", "DE", "FR", "IT", "ES", "NL", "SV", "DA", "NO", "CS", "HU", "PT", "PL", "FI", "JP"}) {
-    CAPTURE(language);
-    Select(language);
+  for (const LocaleRow& language : LocaleTable) {
+    CAPTURE(language.code);
+    Select(language.code);
     for (uint32_t code = 0; code < 1000; ++code) {
       PrnInfo asked{};
       asked.statusCode = code;
@@ -245,7 +245,7 @@ TEST_CASE("every status has its texts in every language") {
       if (code == StatusNoResponse) records.list.noResponse = 1;
       const auto isThere = [&](uint32_t id) {
         const bool special = std::count(japaneseOnly.begin(), japaneseOnly.end(), id) > 0;
-        return !special || language == std::string("JP");
+        return !special || language.code == std::string("JP");
       };
       CHECK(!Ask(PatGetSimpleString_Ex, &records.list).empty() == isThere(row.simpleId));
       CHECK(!Ask(PatGetDetailString_Ex, &records.list).empty() == isThere(row.detailId));

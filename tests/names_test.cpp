@@ -1,4 +1,5 @@
 #include "doctest/doctest.h"
+#include "stmdata/languages.h"
 #include "support.h"
 
 TEST_CASE("a model's description name is found by its key") {
@@ -86,11 +87,10 @@ TEST_CASE("a device has a name in the language that was set") {
 }
 
 TEST_CASE("every language's device names fit 32 bytes") {
-  for (const char* const language :
-       {"EN", "DE", "FR", "IT", "ES", "NL", "SV", "DA", "NO", "CS", "HU", "PT", "PL", "FI", "JP"}) {
-    CAPTURE(language);
-    char name[] = {language[0], language[1], '\0'};
-    PatSetLocale(name);
+  for (const LocaleRow& language : LocaleTable) {
+    CAPTURE(language.code);
+    std::string code = language.code;
+    PatSetLocale(code.data());
     for (const uint32_t device : {163u, 164u}) {
       test::GuardedBytes text(std::string(32, static_cast<char>(test::kPoison)));
       uint32_t size = 32;

@@ -35,7 +35,7 @@ STM_API BOOL STM_CALL DllMain(HINSTANCE module, DWORD reason, void* reserved);
 
 /* Chooses the language of the _Ex text questions and of PatGetDeviceName, for the process. The
    other texts follow the thread's language, and so do these until the first call.
-   name    EN DE FR IT ES NL SV DA NO CS HU PT PL FI or JP in any case; upper-cased in place.
+   name    a code of LocaleTable (languages.h) in any case, such as EN or JP; upper-cased in place.
            Anything else chooses English
    Result  1, 0 for null: the language stays */
 STM_API uint32_t STM_CALL PatSetLocale(char* name);

@@ -55,8 +55,8 @@ std::vector<CatalogueEntry> AskCatalogue(const Language* only) {
     entry.level = row.level;
     entry.reason = &ReasonOf(code);
     entry.icon = AskIcon(sample.list);
-    for (const Language* language = kLanguages; language->code; ++language) {
-      if (!only || only == language) entry.words.push_back(AskWords(code, *language));
+    for (const Language& language : kLanguages) {
+      if (!only || only == &language) entry.words.push_back(AskWords(code, language));
     }
   }
   return catalogue;

@@ -143,8 +143,8 @@ std::string WriteGallery(const std::string& folder, void (*progress)(const std::
   }
   Gallery gallery{folder, {}, Json::array(), ""};
   Json page;
-  for (const Language* language = kLanguages; language->code; ++language)
-    page["languages"].push_back({language->code, language->name});
+  for (const Language& language : kLanguages)
+    page["languages"].push_back({language.code, language.name});
   const auto catalogue = AskCatalogue(nullptr);
   size_t done = 0;
   for (const CatalogueEntry& entry : catalogue) {

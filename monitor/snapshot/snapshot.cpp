@@ -139,8 +139,8 @@ void TakeWords(Snapshot& snapshot) {
   snapshot.texts = StateTexts(snapshot, *snapshot.source.language);
   snapshot.icon = IsFlat(snapshot) ? AskIcon(*snapshot.flat) : AskIcon(*snapshot.record);
   if (snapshot.source.everyLanguage) {
-    for (const Language* language = kLanguages; language->code; ++language)
-      snapshot.allTexts.push_back(StateTexts(snapshot, *language));
+    for (const Language& language : kLanguages)
+      snapshot.allTexts.push_back(StateTexts(snapshot, language));
   }
   // The library takes a printer whose codes it does not know for ready; the exit status does not,
   // and words and icon must agree with it.

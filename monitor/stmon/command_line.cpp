@@ -4,6 +4,7 @@
 
 #include "CLI/CLI.hpp"
 #include "system/streams.h"
+#include "words/languages.h"
 #include "words/safe_text.h"
 
 namespace stmon {
@@ -36,8 +37,7 @@ void Describe(CLI::App& app, Options& options) {
   app.add_option("--record", options.record, "which of the library's records answers, default list")
       ->option_text("list|flat")
       ->check(CLI::IsMember({"list", "flat"}));
-  app.add_option("--lang", options.language,
-                 "EN DE FR IT ES NL SV DA NO CS HU PT PL FI JP; default from the locale, else EN")
+  app.add_option("--lang", options.language, LanguageCodes() + "; default from the locale, else EN")
       ->option_text("CODE|all");
   app.add_flag("--catalogue", options.catalogue,
                "print every status the library knows, in all languages or that of --lang");

@@ -49,20 +49,13 @@ bool OnlyDeviceId(const Options& options) {
          options.scenario.empty() && options.simulate.empty();
 }
 
-std::string LanguageCodes() {
-  std::string codes;
-  for (const Language* language = kLanguages; language->code; ++language)
-    codes += std::string(language->code) + " ";
-  return codes;
-}
-
 // The texts go out all the same, with plainer letters or question marks for those that are missing.
 void TellOfCodePage(const Options& options) {
   std::string lacking;
-  for (const Language* language = kLanguages; language->code; ++language) {
-    const bool asked = options.language == "all" || language == &ChosenLanguage(options) ||
+  for (const Language& language : kLanguages) {
+    const bool asked = options.language == "all" || &language == &ChosenLanguage(options) ||
                        (options.catalogue && options.language.empty());
-    if (asked && !FlatTextsAreWhole(*language)) lacking += std::string(" ") + language->code;
+    if (asked && !FlatTextsAreWhole(language)) lacking += std::string(" ") + language.code;
   }
   if (lacking.empty()) return;
   Complain(
@@ -88,7 +81,7 @@ int Run(const Options& options) {
   const bool all = options.language == "all" || options.language.empty();
   if (!all && !FindLanguage(options.language)) {
     return Fail("--lang " + EscapeBytes(options.language) + ": not one of " + LanguageCodes() +
-                "all.");
+                " all.");
   }
   if (options.catalogue || options.record == "flat") TellOfCodePage(options);
   if (options.catalogue) return PrintCatalogue(options);

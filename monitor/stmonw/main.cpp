@@ -10,6 +10,7 @@
 #include "stmonw/window.h"
 #include "system/streams.h"
 #include "wire/transport.h"
+#include "words/languages.h"
 
 namespace {
 
@@ -27,8 +28,7 @@ void Describe(CLI::App& app, CommandLine& line) {
   app.footer("\nWithout PRINTER a built-in simulated printer is asked.");
   app.add_option("PRINTER", line.settings.printer, "HOST or HOST:PORT, port 9100 unless given")
       ->option_text(" ");
-  app.add_option("--lang", line.language, "EN DE FR IT ES NL SV DA NO CS HU PT PL FI JP")
-      ->option_text("CODE");
+  app.add_option("--lang", line.language, stmon::LanguageCodes())->option_text("CODE");
   app.add_option("--scenario", line.settings.scenario, "what the simulated printer is like")
       ->option_text("NAME|FILE");
   app.add_option("--interval", line.interval, "between two polls, default 5")
@@ -60,7 +60,7 @@ std::string Parse(CommandLine& line, int& status) {
   settings.language =
       line.language.empty() ? &stmon::UserLanguage() : stmon::FindLanguage(line.language);
   if (!settings.language)
-    return "--lang " + line.language + ": EN DE FR IT ES NL SV DA NO CS HU PT PL FI JP are known.";
+    return "--lang " + line.language + ": " + stmon::LanguageCodes() + " are known.";
   stmon::Target target;
   if (!settings.printer.empty() && !stmon::ParseTarget(settings.printer, target)) {
     return "'" + settings.printer +

@@ -266,12 +266,12 @@ void FillChoices(const Window& window) {
                                                      : Wide(settings.printer))
                                .c_str());
   HWND languages = Item(window, IDC_LANGUAGE);
-  for (const stmon::Language* row = stmon::kLanguages; row->code; ++row) {
+  for (const stmon::Language& row : stmon::kLanguages) {
     // The code is for fonts that lack the letters of the name.
-    const std::wstring line = Wide(std::string(row->name) + " (" + row->code + ")");
+    const std::wstring line = Wide(std::string(row.name) + " (" + row.code + ")");
     SendMessageW(languages, CB_ADDSTRING, 0, reinterpret_cast<LPARAM>(line.c_str()));
-    if (row == settings.language)
-      SendMessageW(languages, CB_SETCURSEL, static_cast<WPARAM>(row - stmon::kLanguages), 0);
+    if (&row == settings.language)
+      SendMessageW(languages, CB_SETCURSEL, static_cast<WPARAM>(&row - stmon::kLanguages), 0);
   }
   SendMessageW(Item(window, IDC_INTERVAL_SPIN), UDM_SETRANGE32, kShortestInterval,
                kLongestInterval);

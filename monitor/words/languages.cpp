@@ -1,33 +1,12 @@
 #include "words/languages.h"
 
-#include <cstdlib>
 #include <vector>
 
+#include "stmdata/stmdata.h"
 #include "utf8.h"
 #include "words/safe_text.h"
 
 namespace stmon {
-
-const Language kLanguages[] = {
-    // code locale id    page  name
-    {"EN", "en", 1033, 1252, "English"},             //
-    {"DE", "de", 1031, 1252, "Deutsch"},             //
-    {"FR", "fr", 1036, 1252, "Français"},            //
-    {"IT", "it", 1040, 1252, "Italiano"},            //
-    {"ES", "es", 1034, 1252, "Español"},             //
-    {"NL", "nl", 1043, 1252, "Nederlands"},          //
-    {"SV", "sv", 1053, 1252, "Svenska"},             //
-    {"DA", "da", 1030, 1252, "Dansk"},               //
-    {"NO", "nb", 1044, 1252, "Norsk"},               //
-    {"CS", "cs", 1029, 1250, "Čeština"},             //
-    {"HU", "hu", 1038, 1250, "Magyar"},              //
-    {"PT", "pt", 1046, 1252, "Português (Brasil)"},  //
-    {"PL", "pl", 1045, 1250, "Polski"},              //
-    {"FI", "fi", 1035, 1252, "Suomi"},               //
-    {"JP", "ja", 1041, 932, "日本語"},               //
-    {nullptr, nullptr, 0, 0, nullptr},               // closing row
-};
-
 namespace {
 
 char Upper(char byte) {
@@ -43,51 +22,47 @@ bool SameWord(std::string_view left, std::string_view right) {
 }
 
 #ifdef _WIN32
-const Language* SystemLanguage() {
-  constexpr uint16_t kPrimary = 0x3FF;
-  const uint16_t id = GetUserDefaultUILanguage();
-  for (const Language* row = kLanguages; row->code; ++row) {
-    if ((row->id & kPrimary) == (id & kPrimary)) return row;
-  }
-  return nullptr;
+LANGID SystemLanguage() {
+  return GetUserDefaultUILanguage();
 }
 
 uint32_t SystemCodePage(const Language&) {
   return GetACP();
 }
 #else
-uint32_t SystemCodePage(const Language& language) {
-  return language.codePage;
+// That of the environment: nobody sets another for a thread but while it asks for texts.
+LANGID SystemLanguage() {
+  return GetThreadUILanguage();
 }
 
-const Language* SystemLanguage() {
-  for (const char* variable : {"LC_ALL", "LC_MESSAGES", "LANG"}) {
-    const char* value = std::getenv(variable);
-    if (!value || !*value) continue;
-    std::string_view word(value);
-    word = word.substr(0, word.find_first_of("_.@-"));
-    if (SameWord(word, "no") || SameWord(word, "nn")) word = "nb";
-    for (const Language* row = kLanguages; row->code; ++row) {
-      if (SameWord(word, row->locale)) return row;
-    }
-    return nullptr;
-  }
-  return nullptr;
+uint32_t SystemCodePage(const Language& language) {
+  return language.codePage;
 }
 #endif
 
 }  // namespace
 
 const Language* FindLanguage(std::string_view code) {
-  for (const Language* row = kLanguages; row->code; ++row) {
-    if (SameWord(code, row->code)) return row;
+  for (const Language& row : kLanguages) {
+    if (SameWord(code, row.code)) return &row;
   }
   return nullptr;
 }
 
+std::string LanguageCodes() {
+  std::string codes;
+  for (const Language& row : kLanguages)
+    codes += (codes.empty() ? "" : " ") + std::string(row.code);
+  return codes;
+}
+
 const Language& UserLanguage() {
-  const Language* language = SystemLanguage();
-  return language ? *language : kLanguages[0];
+  constexpr uint32_t kPrimary = 0x3FF;  // bits of a language id, without the country's
+  const uint32_t wanted = SystemLanguage();
+  for (const Language& row : kLanguages) {
+    if (((row.id ^ wanted) & kPrimary) == 0) return row;
+  }
+  return kLanguages[0];
 }
 
 bool FlatTextsAreWhole(const Language& language) {

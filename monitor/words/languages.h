@@ -5,24 +5,21 @@
 #include <string>
 #include <string_view>
 
-#include "stmdata/stmdata.h"
+#include "stmdata/languages.h"
 
 namespace stmon {
 
-struct Language {
-  const char* code;    // as PatSetLocale takes it
-  const char* locale;  // two letters of the system's locale names
-  uint16_t id;         // of the system
-  uint32_t codePage;   // of the texts that the list-based record's questions give
-  const char* name;    // in the language itself
-};
-
-extern const Language kLanguages[];  // closed by a null code
+using Language = LocaleRow;
+inline constexpr auto& kLanguages = LocaleTable;  // English first
 
 // By code, in any case. Result: null for an unknown one.
 const Language* FindLanguage(std::string_view code);
 
-// That of the user's locale, English when the library does not speak it.
+// "EN DE FR ...": all codes in the order of the table.
+std::string LanguageCodes();
+
+// The language in which the system shows things to the user; English when the library does not
+// speak it.
 const Language& UserLanguage();
 
 // The flat record's texts come in the system's code page, which may lack letters of the language.

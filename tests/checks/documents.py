@@ -2,7 +2,7 @@
 """The documents tell the truth. In README.md, CHANGELOG.md and docs/*.md every relative link leads to a
 file; a block of code is an excerpt of an example, and a block of text one of what an example or stmon
 prints; the bytes of the guide's reply are those that the line below each shows. The pictures are what
-stmon draws, and its manual page names its options."""
+stmon draws, and its manual page names its options. Whoever names the languages names those of languages.h."""
 import filecmp
 import os
 import pathlib
@@ -90,6 +90,20 @@ manual = (ROOT / "docs/stmon.1").read_text(encoding="utf-8")
 options = set(re.findall(r"^  (?:-h,)?--([\w-]+)", printed(BUILD / "stmon", "--help").decode(), re.M))
 named = set(re.findall(r"^\.It Fl Fl ([\w-]+)", manual, re.M))
 faults += [f"stmon.1: --{name} is not in both" for name in sorted(options ^ named)]
+
+languages = re.findall(r'^    {"(\w+)", +"[\w ]+", +0x\w+, (\d+),', (ROOT / "include/stmdata/languages.h").read_text(), re.M)
+codes = " ".join(code for code, page in languages)
+for name in ("stmon.1", "stmonw.md"):
+    if codes not in " ".join((ROOT / "docs" / name).read_text(encoding="utf-8").split()):
+        faults.append(f"{name}: does not name the languages {codes}")
+for number in {page for code, page in languages}:
+    row = f"| {' '.join(code for code, page in languages if page == number)} | {number} |"
+    if row.replace("JP", "JP (not JA)") not in (ROOT / "docs/guide.md").read_text(encoding="utf-8"):
+        faults.append(f"guide.md: no row {row}")
+count = {15: "fifteen", 16: "sixteen", 17: "seventeen"}.get(len(languages))
+for page in (ROOT / "README.md", ROOT / "docs/guide.md"):
+    if f" {count} languages" not in page.read_text(encoding="utf-8"):
+        faults.append(f"{page.name}: does not tell of {count} languages")
 
 print("\n".join(faults))
 sys.exit(bool(faults))

@@ -1,16 +1,17 @@
 #!/usr/bin/env python3
-"""Every language has the texts of the English file, of as many lines and with the same blanks at the
-end; each can be written in the language's code page; Japanese has fifteen more. A translation has no
-blank where nobody sees it, before a line end, or where a line may break before a colon."""
+"""The rows of languages.h are the files of the resource script. Every language has the texts of the English
+file, of as many lines and with the same blanks at the end; each can be written in the language's code page;
+Japanese has fifteen more. A translation has no blank where nobody sees it, before a line end, or where a
+line may break before a colon."""
 import pathlib
 import re
 import sys
 
-CODE_PAGES = {"jp": "cp932", "cs": "cp1250", "hu": "cp1250", "pl": "cp1250"}  # the others: cp1252
 JAPANESE_ONLY = {404, 434, 502, 600, 604, 634, 682, 687, 689, 690, 702, 703, 706, 718, 719}
 COLOURS, DEVICES = range(930, 934), (925, 926)
 LONGEST = 255  # bytes, toner colours included: what the guide's buffer of 256 takes
-folder = pathlib.Path(__file__).resolve().parents[2] / "src/resources/strings"
+ROOT = pathlib.Path(__file__).resolve().parents[2]
+folder = ROOT / "src/resources/strings"
 faults = []
 
 
@@ -25,18 +26,25 @@ def layout(text):
 
 
 english = read(folder / "en.rc")
-files = sorted(folder.glob("*.rc"))
-if len(files) != 15:
-    faults.append(f"{len(files)} languages")
-for path in files:
-    language, texts = path.stem, read(path)
+rows = re.findall(r'^    {"(\w+)", +"[\w ]+", +(0x\w+), (\d+),',
+                  (ROOT / "include/stmdata/languages.h").read_text(), re.M)
+named = [code.lower() + ".rc" for code, id, page in rows]
+script = (ROOT / "src/resources/stmdata.rc").read_text(encoding="utf-8")
+if re.findall(r'#include "strings/(.*)"', script) != named or {path.name for path in folder.iterdir()} != set(named):
+    faults.append("stmdata.rc or its folder has other languages than languages.h, or another order")
+for code, id, page in rows:
+    language = code.lower()
+    path = folder / f"{language}.rc"
+    texts = read(path)
+    if f"\nLANGUAGE {int(id, 16) & 0x3FF}, {int(id, 16) >> 10}\n" not in path.read_text(encoding="utf-8"):
+        faults.append(f"{language}: another LANGUAGE than {id}")
     wanted = set(english) | (JAPANESE_ONLY if language == "jp" else set())
     if set(texts) != wanted or list(texts) != sorted(texts):
         faults.append(f"{language}: ids {sorted(set(texts) ^ wanted)} differ, or their order")
     encoded = {}
     for id, text in texts.items():
         try:
-            encoded[id] = text.encode(CODE_PAGES.get(language, "cp1252"))
+            encoded[id] = text.encode("cp" + page)
         except UnicodeEncodeError as error:
             faults.append(f"{language} {id}: {error}")
             continue

@@ -4,11 +4,10 @@
 
 #include "doctest/doctest.h"
 #include "platform/windows_api.h"
+#include "stmdata/languages.h"
 
 namespace {
 
-constexpr LANGID kLanguages[] = {1029, 1030, 1031, 1033, 1034, 1035, 1036, 1038,
-                                 1040, 1041, 1043, 1044, 1045, 1046, 1053};
 constexpr LANGID kJapanese = 1041;
 
 HRSRC Find(const char* type, const char* name, LANGID language) {
@@ -35,11 +34,11 @@ std::vector<unsigned> TextIds(LANGID language) {
 TEST_CASE("every language has the same sixteen string blocks") {
   const std::vector<unsigned> expected = {26, 27, 28, 31, 32, 38, 39, 40,
                                           41, 43, 44, 45, 46, 51, 58, 59};
-  for (LANGID language : kLanguages) {
-    CAPTURE(language);
+  for (const LocaleRow& language : LocaleTable) {
+    CAPTURE(language.code);
     std::vector<unsigned> blocks;
     for (unsigned block = 1; block <= 4096; ++block) {
-      if (Find(RT_STRING, MAKEINTRESOURCEA(block), language)) blocks.push_back(block);
+      if (Find(RT_STRING, MAKEINTRESOURCEA(block), language.id)) blocks.push_back(block);
     }
     CHECK(blocks == expected);
   }
@@ -50,10 +49,10 @@ TEST_CASE("the languages have texts for the same ids, Japanese for fifteen more"
                                               689, 690, 702, 703, 706, 718, 719};
   const std::vector<unsigned> common = TextIds(1033);
   CHECK(common.size() == 106);
-  for (LANGID language : kLanguages) {
-    CAPTURE(language);
-    std::vector<unsigned> ids = TextIds(language);
-    if (language == kJapanese) {
+  for (const LocaleRow& language : LocaleTable) {
+    CAPTURE(language.code);
+    std::vector<unsigned> ids = TextIds(language.id);
+    if (language.id == kJapanese) {
       for (unsigned id : japaneseOnly)
         CHECK(std::erase(ids, id) == 1);
     }

@@ -71,7 +71,7 @@ TEST_CASE("the most important condition is told first, and why it won") {
   CHECK(json["dominant"] == nlohmann::json::parse("[32]"));
   CHECK(json["conditions"][1]["colour"] == "black");
   CHECK(json["conditions"][4]["reason"] == "other-error");
-  CHECK(json["all_texts"].size() == 15);
+  CHECK(json["all_texts"].size() == std::size(stmon::kLanguages));
   CHECK(stmon::RankCodes({50, 52, 7}) == std::vector<std::vector<uint32_t>>{{50, 52}});
 }
 
@@ -90,7 +90,7 @@ TEST_CASE("the catalogue has every status in every language") {
   for (std::string line; std::getline(lines, line); ++count) {
     const auto json = nlohmann::json::parse(line);
     CAPTURE(json["code"].get<int>());
-    CHECK(json["texts"].size() == 15);
+    CHECK(json["texts"].size() == std::size(stmon::kLanguages));
     CHECK(json["texts"]["JP"]["list"]["short"] != "");
     // Two states have words in Japanese alone.
     const bool japanese_only = json["code"] == 4 || json["code"] == 34;

@@ -3,37 +3,18 @@
 #include <cstdlib>
 #include <cstring>
 #include <initializer_list>
+#include <string_view>
+
+#include "stmdata/languages.h"
 
 namespace stm {
 namespace {
 
-struct LocaleRow {
-  char code[3];  // ISO 639-1
-  LANGID language;
-};
-
-// A locale's country is not looked at: who asks for pt_PT or de_AT is better served by the one
-// variant there is than by English.
-constexpr LocaleRow kLocales[] = {
-    {"en", 0x0409},  // English (United States)
-    {"de", 0x0407},  // German
-    {"fr", 0x040C},  // French
-    {"it", 0x0410},  // Italian
-    {"es", 0x040A},  // Spanish
-    {"nl", 0x0413},  // Dutch
-    {"sv", 0x041D},  // Swedish
-    {"da", 0x0406},  // Danish
-    {"no", 0x0414},  // Norwegian, the old name
-    {"nb", 0x0414},  // Norwegian (Bokmål)
-    {"nn", 0x0414},  // Norwegian (Nynorsk), read by the same people
-    {"cs", 0x0405},  // Czech
-    {"hu", 0x040E},  // Hungarian
-    {"pt", 0x0416},  // Portuguese (Brazil)
-    {"pl", 0x0415},  // Polish
-    {"fi", 0x040B},  // Finnish
-    {"ja", 0x0411},  // Japanese
-    {"", kEnglish},  // closing row: C, POSIX and every other language
-};
+// Two letters each, with a blank between them.
+bool Lists(std::string_view codes, std::string_view code) {
+  const size_t at = codes.find(code);
+  return code.size() == 2 && at != codes.npos && at % 3 == 0;
+}
 
 thread_local LANGID chosenLanguage = kNeutral;
 
@@ -50,12 +31,14 @@ const char* EnvironmentLocale() {
   return "C";
 }
 
+// A locale's country is not looked at: who asks for pt_PT or de_AT is better served by the one
+// variant there is than by English, which C, POSIX and every other language get.
 LANGID LanguageOfLocale(const char* locale) {
-  const size_t length = std::strcspn(locale, "_.@");
-  const LocaleRow* row = kLocales;
-  while (row->code[0] && !(length == 2 && std::memcmp(row->code, locale, 2) == 0))
-    ++row;
-  return row->language;
+  const std::string_view code(locale, std::strcspn(locale, "_.@"));
+  for (const LocaleRow& row : LocaleTable) {
+    if (Lists(row.locales, code)) return row.id;
+  }
+  return LocaleTable[0].id;
 }
 
 LANGID EnvironmentLanguage() {

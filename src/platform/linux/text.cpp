@@ -1,39 +1,30 @@
 // Text in code pages, as the system's functions on Windows convert and load it. Where Windows takes
 // the system's ANSI code page, this takes the one of the thread's language.
+#include <charconv>
 #include <cstring>
 
 #include "platform/linux/code_pages/code_page.h"
 #include "platform/linux/environment_language.h"
 #include "platform/string_block.h"
 #include "platform/windows_api.h"
+#include "stmdata/languages.h"
 
 namespace stm {
 namespace {
 
-struct LanguagePage {
-  uint8_t primaryLanguage;
-  uint32_t codePage;
-  char digits[5];
-};
+constexpr uint32_t kPrimaryLanguage = 0x3FF;  // bits of a language id, without the country's
+constexpr UINT kWesternPage = 1252;           // of every language that has no row
 
-constexpr LanguagePage kLanguagePages[] = {
-    {0x05, 1250, "1250"},  // Czech
-    {0x0E, 1250, "1250"},  // Hungarian
-    {0x15, 1250, "1250"},  // Polish
-    {0x11, 932, "932"},    // Japanese
-    {0x00, 1252, "1252"},  // closing row: every other language
-};
-
-const LanguagePage& PageOfLanguage(LANGID language) {
+UINT PageOfLanguage(LANGID language) {
   const uint32_t wanted = language == kNeutral ? GetThreadUILanguage() : language;
-  const LanguagePage* row = kLanguagePages;
-  while (row->primaryLanguage && row->primaryLanguage != (wanted & 0x3FF))
-    ++row;
-  return *row;
+  for (const LocaleRow& row : LocaleTable) {
+    if (((row.id ^ wanted) & kPrimaryLanguage) == 0) return row.codePage;
+  }
+  return kWesternPage;
 }
 
 const CodePage* ThreadCodePage() {
-  return FindCodePage(PageOfLanguage(kNeutral).codePage);
+  return FindCodePage(PageOfLanguage(kNeutral));
 }
 
 const CodePage* AskedCodePage(UINT number) {
@@ -155,7 +146,9 @@ char* STM_CALL CharUpperA(char* text) {
 
 int32_t STM_CALL GetLocaleInfoA(LCID locale, DWORD type, char* buffer, int32_t size) {
   if (type != LOCALE_IDEFAULTANSICODEPAGE) return stm::FailWith(ERROR_INVALID_FLAGS);
-  const char* digits = stm::PageOfLanguage(static_cast<LANGID>(locale)).digits;
+  char digits[8] = "";
+  std::to_chars(digits, digits + sizeof digits - 1,
+                stm::PageOfLanguage(static_cast<LANGID>(locale)));
   const auto needed = static_cast<int32_t>(std::strlen(digits) + 1);
   if (size == 0) return needed;
   if (size < needed || !buffer) return stm::FailWith(ERROR_INSUFFICIENT_BUFFER);
