@@ -7,11 +7,13 @@
 
 requirements (Debian packages): librsvg2-bin python3-pil
 
-Every top-level group of front.svg, back.svg, icons.svg and paper.svg is one layer. A group whose
-id starts with P_ is an opaque whole-printer base; any other group of the two printer views becomes
-a pair: the image BMP_PR_x, pure black around its part, and the mask BMP_PB_x derived from it, black
-where the part is and white elsewhere. The monitor paints a pair with AND and OR, so a part's own
-black must not be pure black: it is the darkest grey of the palette.
+Every top-level group of printer.svg, icons.svg and paper.svg is one layer. A group whose id starts
+with P_BASE, P_B_BASE or P_DUP is an opaque whole-printer base; any other group of the printer becomes a pair: the
+image BMP_PR_x, pure black around its part, and the mask BMP_PB_x, black where the part is and white
+elsewhere. The monitor paints a pair with AND and OR.
+
+Each is drawn at four times its size and reduced to the palette, so that its edges are smooth: a
+part's edge blends with what lies below it, which the group's data-on names.
 """
 import filecmp
 import io
@@ -24,21 +26,22 @@ import xml.etree.ElementTree as ET
 
 from PIL import Image
 
+sys.dont_write_bytecode = True
+from model import COLOURS
+
 HERE = os.path.dirname(os.path.abspath(__file__))
 RESOURCES = os.path.dirname(HERE)
 SVG = "http://www.w3.org/2000/svg"
 ET.register_namespace("", SVG)
+ET.register_namespace("xlink", "http://www.w3.org/1999/xlink")
 
 # One palette for every picture and icon. Entry 0 is pure black and means "outside the part" in an
 # image layer; entry 1 is pure white and means the same in a mask.
 OUTSIDE, WHITE = 0, 1
-PALETTE = (
-    (0, 0, 0), (255, 255, 255),
-    (40, 44, 48), (90, 96, 104), (140, 146, 152), (180, 186, 190), (212, 216, 220), (236, 240, 242),
-    (240, 90, 0), (255, 216, 168),                     # highlight "here", its tint
-    (0, 164, 228), (224, 0, 124), (255, 224, 0),       # cyan, magenta, yellow toner
-    (44, 92, 156), (32, 160, 72), (208, 16, 32),       # blue, green, red
-)
+PALETTE = tuple(tuple(int(c[k:k + 2], 16) for k in (1, 3, 5)) for c in COLOURS.values())
+
+SCALE = 4           # how much larger the drawings are rendered than the pictures are
+COVERED = 96 / 255  # a pixel belongs to a part from this share of it upwards
 
 # Layer names in the order of the part codes 1 to 67.
 LAYERS = """
@@ -59,43 +62,74 @@ ERR_WASTONER PAP_100 PAP_75 PAP_50 PAP_25 PAP_0
 """.split()
 
 
+def render(root):
+    try:
+        png = subprocess.run(["rsvg-convert", "--format=png", "--zoom=%d" % SCALE],
+                             input=ET.tostring(root), stdout=subprocess.PIPE, check=True).stdout
+    except FileNotFoundError:
+        sys.exit("rsvg-convert is missing: install the Debian package librsvg2-bin")
+    return Image.open(io.BytesIO(png)).convert("RGBA")
+
+
+def reduced(picture):
+    return picture.resize((picture.width // SCALE, picture.height // SCALE), Image.BOX)
+
+
 def render_groups(name):
-    """Return {group id: RGBA picture} for every top-level group of an SVG file."""
+    """Return {group id: Layer} for every top-level group of an SVG file."""
     root = ET.parse(os.path.join(HERE, name)).getroot()
-    groups = [e for e in root if e.tag == "{%s}g" % SVG]
-    for g in groups:
-        root.remove(g)
-    pictures = {}
-    for g in groups:
-        root.append(g)
-        try:
-            png = subprocess.run(["rsvg-convert", "--format=png"], input=ET.tostring(root),
-                                 stdout=subprocess.PIPE, check=True).stdout
-        except FileNotFoundError:
-            sys.exit("rsvg-convert is missing: install the Debian package librsvg2-bin")
-        root.remove(g)
-        pictures[g.get("id")] = Image.open(io.BytesIO(png)).convert("RGBA")
-    return pictures
+    groups = {e.get("id"): e for e in root if e.tag == "{%s}g" % SVG}
+    for group in groups.values():
+        root.remove(group)
+    drawn = {}
+    for name, group in groups.items():
+        root.append(group)
+        drawn[name] = render(root)
+        root.remove(group)
+    layers = {}
+    for name, group in groups.items():
+        below = group.get("data-on")
+        layers[name] = Layer(drawn[name], None if below is None else
+                             [drawn[b] for b in below.split()])
+    return layers
+
+
+class Layer:
+    """Palette indices of a drawing and which of its pixels it covers, top row first.
+
+    `below` is a list of the drawings that it lies on, on white; None keeps its own colours to its
+    very edge, for any ground.
+    """
+
+    def __init__(self, drawing, below):
+        share = reduced(drawing.getchannel("A"))
+        self.size = share.size
+        self.covered = [p >= COVERED * 255 for p in share.getdata()]
+        if below is None:
+            colours = reduced(drawing.convert("RGBa")).convert("RGBA")
+        else:
+            ground = Image.new("RGBA", drawing.size, "white")
+            for picture in below + [drawing]:
+                ground.alpha_composite(picture)
+            colours = reduced(ground)
+        self.indices = [nearest(p[:3]) for p in colours.getdata()]
+
+    def rows(self, background):
+        width, height = self.size
+        flat = [p if c else background for p, c in zip(self.indices, self.covered)]
+        return [flat[y * width:(y + 1) * width] for y in range(height)]
+
+    def mask(self):
+        width, height = self.size
+        flat = [OUTSIDE if c else WHITE for c in self.covered]
+        return [flat[y * width:(y + 1) * width] for y in range(height)]
 
 
 def nearest(rgb, cache={}):
-    """Index of the palette entry closest to a colour; never pure black."""
+    """Index of the palette entry closest to a colour."""
     if rgb not in cache:
-        cache[rgb] = min(range(1, 16),
-                         key=lambda i: sum((a - b) ** 2 for a, b in zip(PALETTE[i], rgb)))
+        cache[rgb] = min(range(16), key=lambda i: sum((a - b) ** 2 for a, b in zip(PALETTE[i], rgb)))
     return cache[rgb]
-
-
-def indexed(picture, background):
-    """Reduce a picture to palette indices, top row first; clear pixels get the background index."""
-    width, height = picture.size
-    data = list(picture.getdata())
-    flat = [nearest(p[:3]) if p[3] >= 128 else background for p in data]
-    return [flat[y * width:(y + 1) * width] for y in range(height)]
-
-
-def mask_of(rows):
-    return [[WHITE if p == OUTSIDE else OUTSIDE for p in row] for row in rows]
 
 
 def rle(rows, bits):
@@ -192,30 +226,25 @@ def expect_size(name, picture, size):
 def build():
     """Return {path relative to the resource folder: file contents}."""
     files = {}
-    views = {**render_groups("front.svg"), **render_groups("back.svg")}
+    views = render_groups("printer.svg")
     groups = {n: n if n.startswith("P_") else n.split("_", 1)[1] for n in LAYERS}
     expect_groups(views, groups.values())
     for name in LAYERS:
         family = name.split("_", 1)[0]
-        group = views[groups[name]]
-        expect_size(name, group, (320, 200))
-        if family == "P":
-            rows = indexed(group, WHITE)
-        else:
-            rows = indexed(group, OUTSIDE)
-            if family == "PB":
-                rows = mask_of(rows)
+        layer = views[groups[name]]
+        expect_size(name, layer, (320, 200))
+        rows = layer.mask() if family == "PB" else layer.rows(WHITE if family == "P" else OUTSIDE)
         files["bitmaps/bmp_%s.bmp" % name.lower()] = bmp(rows, 4)
     papers = render_groups("paper.svg")
     expect_groups(papers, PAPERS)
     for name in PAPERS:
         expect_size(name, papers[name], (12, 12))
-        files["bitmaps/bmp_%s.bmp" % name.lower()] = bmp(indexed(papers[name], WHITE), 8)
+        files["bitmaps/bmp_%s.bmp" % name.lower()] = bmp(papers[name].rows(WHITE), 8)
     icons = render_groups("icons.svg")
     expect_groups(icons, ICONS)
     for name in ICONS:
         expect_size(name, icons[name], (32, 32))
-        files["icons/ico_%s.ico" % name.lower()] = ico(indexed(icons[name], OUTSIDE))
+        files["icons/ico_%s.ico" % name.lower()] = ico(icons[name].rows(OUTSIDE))
     files["bitmaps.rc"] = script("BITMAP", LAYERS + PAPERS, "bitmaps", "BMP_", "bmp")
     files["icons.rc"] = script("ICON", ICONS, "icons", "ICO_", "ico")
     return files
