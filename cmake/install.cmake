@@ -58,7 +58,7 @@ endif()
 install(FILES README.md CHANGELOG.md DESTINATION ${doc_folder})
 install(FILES docs/copyright DESTINATION ${doc_folder})
 # In a folder of their own, as in the source tree, so that the pages find each other.
-install(DIRECTORY docs DESTINATION ${doc_folder} FILES_MATCHING PATTERN *.md PATTERN *.png)
+install(DIRECTORY docs DESTINATION ${doc_folder} FILES_MATCHING PATTERN *.md PATTERN *.[ps][nv]g)
 if(NOT WIN32)
   install(FILES docs/stmon.1 DESTINATION ${CMAKE_INSTALL_MANDIR}/man1)
 endif()

@@ -3,6 +3,7 @@
 #include <algorithm>
 
 #include "picture/picture_system.h"
+#include "picture/vector.h"
 
 namespace stmon {
 namespace {
@@ -53,6 +54,16 @@ Image DrawPicture(const PrnInfo& info) {
   PrnBitmap bitmap{};
   if (PatGetPrnBitmap(&info, &bitmap) != 1) return {};
   return DrawParts(bitmap);
+}
+
+std::string DrawVector(const PrnInfoEx& record) {
+  PrnBitmap bitmap{};
+  return PatGetPrnBitmap_Ex(&record, &bitmap) == 1 ? VectorParts(bitmap) : "";
+}
+
+std::string DrawVector(const PrnInfo& info) {
+  PrnBitmap bitmap{};
+  return PatGetPrnBitmap(&info, &bitmap) == 1 ? VectorParts(bitmap) : "";
 }
 
 std::string ExistingIcon(const std::string& name) {

@@ -19,6 +19,10 @@ struct Image {
 Image DrawPicture(const PrnInfoEx& record);
 Image DrawPicture(const PrnInfo& info);
 
+// The same as an SVG document, for any size; empty when no picture could be composed.
+std::string DrawVector(const PrnInfoEx& record);
+std::string DrawVector(const PrnInfo& info);
+
 // The two names that the library gives and has no icon for become the nearest one: offline for a
 // printer without power, caution for a code without an icon.
 std::string ExistingIcon(const std::string& name);

@@ -50,7 +50,7 @@ void Describe(CLI::App& app, Options& options) {
           ->check(CLI::Range(0.1, 86400.0));
   app.add_option("--picture", options.pictureFile,
                  "write the printer's picture; '-' shows it in a terminal with colours")
-      ->option_text("FILE.png|-");
+      ->option_text("FILE.png|FILE.svg|-");
   app.add_option("--gallery", options.gallery,
                  "write pictures, icons and texts of every status, and a page that shows them")
       ->option_text("DIR");

@@ -90,8 +90,11 @@ bool ShowInTerminal(const Image& image) {
 // Result: the picture could be shown, or there is nothing to show.
 bool ShowPicture(const Options& options, const Snapshot& snapshot) {
   if (options.pictureFile.empty() || !snapshot.told) return true;
-  const Image image = snapshot.source.kind == RecordKind::Flat ? DrawPicture(*snapshot.flat)
-                                                               : DrawPicture(*snapshot.record);
+  const bool flat = snapshot.source.kind == RecordKind::Flat;
+  if (options.pictureFile.ends_with(".svg"))
+    return WriteFile(options.pictureFile,
+                     flat ? DrawVector(*snapshot.flat) : DrawVector(*snapshot.record));
+  const Image image = flat ? DrawPicture(*snapshot.flat) : DrawPicture(*snapshot.record);
   if (image.pixels.empty()) {
     Fail("the picture could not be drawn.");
     return false;

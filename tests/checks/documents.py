@@ -82,7 +82,7 @@ for page in PAGES:
 
 with tempfile.TemporaryDirectory() as folder:
     printed(ROOT / "docs/images/draw.sh", folder)
-    for picture in sorted((ROOT / "docs/images").glob("*.png")):
+    for picture in sorted((ROOT / "docs/images").glob("*.[ps][nv]g")):
         if not filecmp.cmp(picture, pathlib.Path(folder) / picture.name, shallow=False):
             faults.append(f"{picture.name}: another picture than stmon's; run docs/images/draw.sh")
 

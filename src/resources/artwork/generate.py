@@ -2,8 +2,9 @@
 """Render the vector artwork into the committed bitmaps and icons.
 
     generate.py            write ../bitmaps/*.bmp, ../icons/*.ico and the two resource scripts
-    generate.py --check    render into a temporary folder and compare with the committed files;
-                           exit status 1 with a list of the files that differ
+    generate.py --check    render into a temporary folder and compare with the committed files,
+                           and the drawings at 320 x 200 with the shapes of their layers;
+                           exit status 1 with a list of what differs
 
 requirements (Debian packages): librsvg2-bin python3-pil
 
@@ -42,6 +43,7 @@ PALETTE = tuple(tuple(int(c[k:k + 2], 16) for k in (1, 3, 5)) for c in COLOURS.v
 
 SCALE = 4           # how much larger the drawings are rendered than the pictures are
 COVERED = 96 / 255  # a pixel belongs to a part from this share of it upwards
+SAME_SHAPE = 0.97   # least overlap of a layer's mask and its drawing rendered at its size
 
 # Layer names in the order of the part codes 1 to 67.
 LAYERS = """
@@ -62,9 +64,9 @@ ERR_WASTONER PAP_100 PAP_75 PAP_50 PAP_25 PAP_0
 """.split()
 
 
-def render(root):
+def render(root, scale):
     try:
-        png = subprocess.run(["rsvg-convert", "--format=png", "--zoom=%d" % SCALE],
+        png = subprocess.run(["rsvg-convert", "--format=png", "--zoom=%d" % scale],
                              input=ET.tostring(root), stdout=subprocess.PIPE, check=True).stdout
     except FileNotFoundError:
         sys.exit("rsvg-convert is missing: install the Debian package librsvg2-bin")
@@ -81,16 +83,17 @@ def render_groups(name):
     groups = {e.get("id"): e for e in root if e.tag == "{%s}g" % SVG}
     for group in groups.values():
         root.remove(group)
-    drawn = {}
+    drawn, plain = {}, {}
     for name, group in groups.items():
         root.append(group)
-        drawn[name] = render(root)
+        drawn[name] = render(root, SCALE)
+        plain[name] = render(root, 1)
         root.remove(group)
     layers = {}
     for name, group in groups.items():
         below = group.get("data-on")
-        layers[name] = Layer(drawn[name], None if below is None else
-                             [drawn[b] for b in below.split()])
+        below = None if below is None else [drawn[b] for b in below.split()]
+        layers[name] = Layer(drawn[name], below, plain[name])
     return layers
 
 
@@ -101,7 +104,8 @@ class Layer:
     very edge, for any ground.
     """
 
-    def __init__(self, drawing, below):
+    def __init__(self, drawing, below, plain):
+        self.plain = plain  # the drawing rendered at its own size
         share = reduced(drawing.getchannel("A"))
         self.size = share.size
         self.covered = [p >= COVERED * 255 for p in share.getdata()]
@@ -268,6 +272,18 @@ def listing(folder):
     return names
 
 
+def shapes():
+    """The drawings of the printer whose plain rendering is not the shape of their layer's mask."""
+    bad = []
+    for name, layer in render_groups("printer.svg").items():
+        plain = [p >= 128 for p in layer.plain.getchannel("A").getdata()]
+        both = sum(a and b for a, b in zip(plain, layer.covered))
+        either = sum(a or b for a, b in zip(plain, layer.covered))
+        if both < SAME_SHAPE * either:
+            bad.append("another shape: %s, %.1f %%" % (name, 100 * both / either))
+    return bad
+
+
 def check():
     with tempfile.TemporaryDirectory() as fresh:
         write(build(), fresh)
@@ -280,6 +296,7 @@ def check():
                 bad.append("not from the artwork: " + name)
             elif not filecmp.cmp(ours, theirs, shallow=False):
                 bad.append("differs: " + name)
+    bad += shapes()
     for line in bad:
         print(line)
     return 1 if bad else 0

@@ -145,6 +145,24 @@ def roller(x0, x1, y, z, radius, body="soft", gleam="white", shade="mid", cap="l
             poly(ring("x", (y, z), radius, x1), cap, edge, width)]
 
 
+def within(points, window):
+    """The part of a polygon that lies in a convex one, both places of the picture."""
+    for k, (ax, ay) in enumerate(window):
+        bx, by = window[(k + 1) % len(window)]
+
+        def depth(p):
+            return (bx - ax) * (p[1] - ay) - (by - ay) * (p[0] - ax)
+        kept = []
+        for p, q in zip(points, points[1:] + points[:1]):
+            a, b = depth(p), depth(q)
+            if a >= 0:
+                kept.append(p)
+            if a * b < 0:
+                kept.append((p[0] + (q[0] - p[0]) * a / (a - b), p[1] + (q[1] - p[1]) * a / (a - b)))
+        points = kept
+    return points
+
+
 # ---- Signs -----------------------------------------------------------------------------------------
 
 SHAFT, HEAD, HEAD_LENGTH = 6.0, 13.0, 8.5   # of every arrow
@@ -193,7 +211,8 @@ def zigzag(places, width=2.4):
 def letter(name, x, z, size, y, colour, width=1.6):
     """A letter or digit on a plane that faces the viewer, as strokes; x and z are its middle."""
     strokes = {
-        "C": [[(1, .78), (.72, 1), (.28, 1), (0, .72), (0, .28), (.28, 0), (.72, 0), (1, .22)]],
+        "C": [[(.5 + .52 * math.cos(math.radians(a)), .5 + .52 * math.sin(math.radians(a)))
+               for a in range(48, 320, 24)]],
         "M": [[(0, 0), (0, 1), (.5, .4), (1, 1), (1, 0)]],
         "Y": [[(0, 1), (.5, .5), (1, 1)], [(.5, .5), (.5, 0)]],
         "K": [[(0, 0), (0, 1)], [(1, 1), (0, .42)], [(.25, .58), (1, 0)]],
@@ -249,14 +268,19 @@ def unit_body(z):
 def output_tray(front_edge, back_edge, deep):
     """The hollow in the top, deep at the slot where sheets come out."""
     a, b, x0, x1 = front_edge, back_edge, 16, WIDTH - 16
-    z0, z1 = HEIGHT - 1, HEIGHT - deep
-    return [poly([(x0, a, HEIGHT), (x1, a, HEIGHT), (x1, b, HEIGHT), (x0, b, HEIGHT)], "mid", None),
-            poly([(x0, a, z0), (x1, a, z0), (x1, b, z1), (x0, b, z1)], "light", None),
-            poly([(x0, a, z0), (x1, a, z0), (x1, (a + b) / 2, (z0 + z1) / 2),
-                  (x0, (a + b) / 2, (z0 + z1) / 2)], "pale", None),
-            poly([(x0, b, HEIGHT), (x1, b, HEIGHT), (x1, b, z1), (x0, b, z1)], "dark", None),
-            poly([(x0 + 14, b, HEIGHT - 3), (x1 - 14, b, HEIGHT - 3), (x1 - 14, b, z1 + 3),
-                  (x0 + 14, b, z1 + 3)], "ink", None)]
+    low = HEIGHT - deep
+    rim = [at(*p) for p in ((x0, a, HEIGHT), (x0, b, HEIGHT), (x1, b, HEIGHT), (x1, a, HEIGHT))]
+
+    def inside(points, fill):
+        return flat(within([at(*p) for p in points], rim), fill, None)
+    middle = ((a + b) / 2, HEIGHT - deep / 2)
+    return [flat(rim, "mid", None),
+            inside([(x0, a, HEIGHT), (x1, a, HEIGHT), (x1, b, low), (x0, b, low)], "light"),
+            inside([(x0, a, HEIGHT), (x1, a, HEIGHT), (x1, *middle), (x0, *middle)], "pale"),
+            inside([(x0, b, HEIGHT), (x1, b, HEIGHT), (x1, b, low), (x0, b, low)], "dark"),
+            inside([(x0 + 12, b, HEIGHT - 3), (x1 - 14, b, HEIGHT - 3), (x1 - 14, b, low + 3),
+                    (x0 + 12, b, low + 3)], "ink"),
+            flat(rim, "hollow", "mid", .9)]
 
 
 def printed_sheet():
@@ -441,12 +465,14 @@ LID = 26                        # how far the top cover stands up
 def inside_from_above():
     x0, x1, y0, y1 = RIM
     z = HEIGHT - 9
-    return [poly([(x0, y0, HEIGHT), (x1, y0, HEIGHT), (x1, y1, HEIGHT), (x0, y1, HEIGHT)], "ink",
-                 "ink"),
-            poly([(x0, y1, HEIGHT), (x1, y1, HEIGHT), (x1, y1, z), (x0, y1, z)], "dark", None),
-            poly([(x0, y0, HEIGHT), (x0, y1, HEIGHT), (x0, y1, z), (x0, y0 + 26, z)], "mid", None),
-            poly([(x0, y0 + 26, z), (x1 - 10, y0 + 26, z), (x1, y0 + 30, z), (x1, y1, z),
-                  (x0, y1, z)], "dark", None)]
+    rim = [at(*p) for p in ((x0, y0, HEIGHT), (x0, y1, HEIGHT), (x1, y1, HEIGHT), (x1, y0, HEIGHT))]
+
+    def inside(points, fill):
+        return flat(within([at(*p) for p in points], rim), fill, None)
+    return [flat(rim, "dark", None),
+            inside([(x0, y1, HEIGHT), (x1, y1, HEIGHT), (x1, y1, z), (x0, y1, z)], "ink"),
+            inside([(x0, y0, HEIGHT), (x0, y1, HEIGHT), (x0, y1, z), (x0, y0, z)], "mid"),
+            flat(rim, "hollow", "ink", 1)]
 
 
 def fuser(z=HEIGHT - 5):
@@ -532,7 +558,10 @@ def oil_bottle():
     drop = [(cx + 5.2 * math.sin(math.radians(a)) * (1 - (a == 180)), y0,
              z + 12 - 5.2 * math.cos(math.radians(a)) + (6 if a == 180 else 0))
             for a in range(0, 360, 20) if not 125 < a < 180 and not 180 < a < 235]
-    return [framed_place(*OIL),
+    hot = [roller(24, 146, 92, HEIGHT - 5, 6, "mid", "soft", "dark", "soft", width=.8),
+           roller(24, 146, 80, HEIGHT - 5, 6, "red", "tint", "honey", "tint", width=.8),
+           heat((40, 74, 108), 80, HEIGHT + 3)]
+    return [hot, framed_place(*OIL),
             box(x0, x1, y0, y1, z, z + high, ("pale", "light", "tint")),
             front(x0 + .7, x1 - .7, z + .7, z + rest, "honey", None, y=y0),
             side(y0 + .7, y1 - .7, z + .7, z + rest, "honey", None, x=x1),
