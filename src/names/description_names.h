@@ -76,8 +76,8 @@ constexpr bool DesNamesAreSound() {
     if (row.desName && std::string_view(row.desName).size() > kLongestDesName) return false;
   }
   const DesName* row = kDesNameTable;
-  for (const NameCode* model = kModelNameTable; model->name; ++model, ++row) {
-    if (row->key != std::string_view(model->name) || row->modelCode != model->code) return false;
+  for (const NameCode* model = kModelNameTable; model->name.data(); ++model, ++row) {
+    if (row->key != model->name || row->modelCode != model->code) return false;
   }
   return true;
 }

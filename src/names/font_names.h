@@ -26,7 +26,7 @@ inline constexpr NameCode kFontNameTable[] = {
     {"GYOUSHO", 18},            //
     {"KAISHO", 19},             //
     {"KYOUKASHO", 20},          //
-    {nullptr, 0},               // closing row: unknown font
+    {{}, 0},                    // closing row: unknown font
 };
 
 }  // namespace stm

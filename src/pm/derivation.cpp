@@ -3,6 +3,7 @@
 #include "names/device_table.h"
 #include "names/font_names.h"
 #include "names/model_names.h"
+#include "names/name_index.h"
 #include "pm/name_tables.h"
 #include "records/paper_levels.h"
 
@@ -19,9 +20,10 @@ constexpr PaperLevelRow kPaperLevels[] = {
     {0, 100},     // closing row: nothing said against it
 };
 
-uint32_t CodeOf(const char* name, const char* altName, const NameCode* table, uint32_t neither) {
+template <const auto& kTable>
+uint32_t CodeOf(const char* name, const char* altName, uint32_t neither) {
   if (!IsPresent(name)) name = altName;
-  return IsPresent(name) ? static_cast<uint32_t>(LookupNameCode(name, table)) : neither;
+  return IsPresent(name) ? static_cast<uint32_t>(LookupNameCode<kTable>(name)) : neither;
 }
 
 }  // namespace
@@ -43,23 +45,23 @@ PrinterState StateOf(uint32_t statusBits) {
 }
 
 uint32_t TrayCode(const PMInputTray& tray) {
-  return CodeOf(tray.name, tray.altName, kInputTrayNameTable, 0);
+  return CodeOf<kInputTrayNameTable>(tray.name, tray.altName, 0);
 }
 
 uint32_t BinCode(const PMOutputBin& bin) {
-  return CodeOf(bin.name, bin.altName, kOutputBinNameTable, BinUnknown);
+  return CodeOf<kOutputBinNameTable>(bin.name, bin.altName, BinUnknown);
 }
 
 uint32_t EmulationCode(const PMEmulation& emulation) {
-  return CodeOf(emulation.name, emulation.altName, kEmulationNameTable, 0);
+  return CodeOf<kEmulationNameTable>(emulation.name, emulation.altName, 0);
 }
 
 uint32_t FontCode(const PMFont& font) {
-  return CodeOf(font.name, nullptr, kFontNameTable, 0);
+  return CodeOf<kFontNameTable>(font.name, nullptr, 0);
 }
 
 uint8_t ModelCode(const char* modelName) {
-  return static_cast<uint8_t>(LookupNameCode(modelName, kModelNameTable));
+  return static_cast<uint8_t>(LookupNameCode<kModelNameTable>(modelName));
 }
 
 uint32_t PaperCode(const PMInputTray& tray, uint32_t earlier) {
@@ -70,7 +72,7 @@ uint32_t PaperCode(const PMInputTray& tray, uint32_t earlier) {
     return row->paperCode ? row->paperCode : earlier;
   }
   if (!IsPresent(tray.paperName)) return PaperTrayMissing;
-  const auto code = static_cast<uint32_t>(LookupNameCode(tray.paperName, kPaperNameTable));
+  const auto code = static_cast<uint32_t>(LookupNameCode<kPaperNameTable>(tray.paperName));
   if (code) return code;
   const bool unknown = std::strcmp(tray.paperName, kUnknownPaperName) == 0;
   return unknown ? uint32_t{PaperTrayMissing} : kPaperFree;

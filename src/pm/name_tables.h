@@ -38,7 +38,7 @@ inline constexpr NameCode kInputTrayNameTable[] = {
     {"Tray 5", 7},                                //
     {"LCT", 7},                                   // large-capacity tray
     {"MultiA4", 10},                              // multi-purpose tray for A4
-    {nullptr, 0},                                 // closing row: unknown tray
+    {{}, 0},                                      // closing row: unknown tray
 };
 
 inline constexpr NameCode kOutputBinNameTable[] = {
@@ -76,7 +76,7 @@ inline constexpr NameCode kOutputBinNameTable[] = {
     {"Print Post Bin8", 14},                          //
     {"PrintPostBin9", 15},                            //
     {"Print Post Bin9", 15},                          //
-    {nullptr, 255},                                   // closing row: unknown bin
+    {{}, 255},                                        // closing row: unknown bin
 };
 
 inline constexpr uint32_t kEmulationOrlexScript2 = 2;
@@ -92,7 +92,7 @@ inline constexpr NameCode kEmulationNameTable[] = {
     {"NV-GL/2", 12},      //
     {"TIFF", 13},         //
     {"WXDL-C", 14},       //
-    {nullptr, 0},         // closing row: unknown language
+    {{}, 0},              // closing row: unknown language
 };
 
 // Short forms may carry a blank that belongs to the name. Codes above 41 have no row in the paper
@@ -171,7 +171,7 @@ inline constexpr NameCode kPaperNameTable[] = {
     {"MNR", 52},                                           //
     {"CMR", 53},                                           //
     {"???", 54},                                           //
-    {nullptr, 0},                                          // closing row: unknown paper
+    {{}, 0},                                               // closing row: unknown paper
 };
 
 // Paper of any size.

@@ -1,15 +1,21 @@
 #include "records/configuration_blocks.h"
 
+#include <algorithm>
 #include <cstring>
 
 #include "names/emulation_codes.h"
 #include "names/font_names.h"
+#include "names/name_index.h"
 #include "records/item_list.h"
 
 namespace stm {
 namespace {
 
-constexpr uint32_t kVersionLimit = 8;
+// How many bytes a field takes at most, its delimiter among them.
+constexpr uint32_t kMostOfVersion = 7;
+constexpr uint32_t kMostOfNumber = 15;
+constexpr uint32_t kMostOfLanguage = 4;
+constexpr uint32_t kMostOfFont = 127;
 
 // Keeps a version text of six characters at most. A block that the record holds is written over.
 void KeepVersion(std::string_view value, char*& text, Room* room) {
@@ -22,26 +28,30 @@ void KeepVersion(std::string_view value, char*& text, Room* room) {
 }  // namespace
 
 //   1B 'V' CR  S Y S CR 1 . 0 1 CR  N W C CR 2 . 0 0 LF
-//              label    value       label    value       a third pair may follow
+//              label    value       label    value
+//
+// A third pair may follow, whose value goes on to the block's end, CRs included.
 void ParseVersionBlock(const Block& block, Filling to) {
   Fields fields = FieldsOf(block);
-  NextField(fields, kVersionLimit);
-  KeepVersion(NextField(fields, kVersionLimit), to.record->versionText1, to.room);
-  NextField(fields, kVersionLimit);
-  KeepVersion(NextField(fields, kVersionLimit), to.record->versionText2, to.room);
+  NextField(fields, kMostOfVersion);
+  KeepVersion(NextField(fields, kMostOfVersion), to.record->versionText1, to.room);
+  NextField(fields, kMostOfVersion);
+  KeepVersion(NextField(fields, kMostOfVersion), to.record->versionText2, to.room);
   if (AtEnd(fields)) return;
-  NextField(fields, kVersionLimit);
-  KeepVersion(ReadRest(fields, kVersionLimit), to.record->versionText3, to.room);
+  NextField(fields, kMostOfVersion);
+  KeepVersion(ReadRest(block, fields, kMostOfVersion), to.record->versionText3, to.room);
 }
 
 //   1B 'M' CR  6 4 LF
 void ParseNumberBlock(const Block& block, Filling to) {
-  to.record->modelInfoNumber = ParseDecimal(ReadRest(FieldsOf(block), 16));
+  Fields fields = FieldsOf(block);
+  to.record->modelInfoNumber = ParseDecimal(NextField(fields, kMostOfNumber));
 }
 
 //   1B 'E' CR  N D L LF
 void ParseEmulationBlock(const Block& block, Filling to) {
-  const std::string_view code = ReadRest(FieldsOf(block), 5);
+  Fields fields = FieldsOf(block);
+  const std::string_view code = NextField(fields, kMostOfLanguage);
   to.record->emulationCode = static_cast<uint32_t>(LookupNameCode<kEmulationCodeTable>(code));
 }
 
@@ -53,7 +63,7 @@ void ParseFontBlock(const Block& block, Filling to) {
   FontNode** link = &to.record->fontList;
   Fields fields = FieldsOf(block);
   while (!AtEnd(fields)) {
-    const int32_t code = LookupNameCode<kFontNameTable>(NextField(fields, 128));
+    const int32_t code = LookupNameCode<kFontNameTable>(NextField(fields, kMostOfFont));
     if (code == 0) continue;
     FontNode* font = NextItem(link, to.room);
     if (!font) continue;

@@ -3,6 +3,7 @@
 
 #include "names/emulation_codes.h"
 #include "names/model_names.h"
+#include "names/name_index.h"
 #include "records/item_list.h"
 #include "records/record.h"
 #include "records/scanners.h"
@@ -12,11 +13,12 @@ namespace stm {
 namespace {
 
 constexpr NameCode kServedModels[] = {
-    kServedModel, {nullptr, ModelUnknown},  // closing row: another printer
+    kServedModel, {{}, ModelUnknown},  // closing row: another printer
 };
 
 constexpr char kFieldEnd = ';';
 constexpr uint32_t kKeyLength = 4;
+constexpr uint32_t kMostOfLanguage = 7;  // with its comma
 
 // The value of a field: what follows the key, with the field's ";".
 using Value = Input;
@@ -39,10 +41,11 @@ void ReplaceText(char*& text, const Value& value, Room* room) {
 }
 
 // A printer whose name cannot be kept counts as unknown.
-void ReplaceNamedModel(Filling to, char*& name, Value value, const NameCode* models) {
+template <const auto& kModels>
+void ReplaceNamedModel(Filling to, char*& name, Value value) {
   DropLast(value);
   ReplaceText(name, value, to.room);
-  to.record->modelCode = static_cast<uint8_t>(name ? LookupNameCode(name, models) : ModelUnknown);
+  to.record->modelCode = static_cast<uint8_t>(name ? LookupNameCode<kModels>(name) : ModelUnknown);
 }
 
 void ReadManufacturer(Filling to, Value value) {
@@ -56,7 +59,7 @@ void ReadLanguages(Filling to, Value value) {
   to.record->emulationCount = 0;
   EmulationNode** link = &to.record->emulationList;
   while (Left(value) > 0) {
-    Field code = ScanField(value, 8, ',', kFieldEnd);
+    Field code = ScanField(value, kMostOfLanguage, ',', kFieldEnd);
     if (code.delimiter == '\0') code.text.remove_suffix(1);
     EmulationNode* language = NextItem(link, to.room);
     if (!language) continue;
@@ -67,11 +70,11 @@ void ReadLanguages(Filling to, Value value) {
 }
 
 void ReadModel(Filling to, Value value) {
-  ReplaceNamedModel(to, to.record->modelName, value, kServedModels);
+  ReplaceNamedModel<kServedModels>(to, to.record->modelName, value);
 }
 
 void ReadDescription(Filling to, Value value) {
-  ReplaceNamedModel(to, to.record->description, value, kModelNameTable);
+  ReplaceNamedModel<kModelNameTable>(to, to.record->description, value);
 }
 
 struct KeyRow {

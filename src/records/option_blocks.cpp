@@ -3,7 +3,7 @@
 #include <bit>
 
 #include "records/item_list.h"
-#include "records/letter_index.h"
+#include "records/row_index.h"
 
 namespace stm {
 namespace {
@@ -102,9 +102,9 @@ void ParseOptionBlock(const Block& block, Filling to) {
   to.record->optionCount = 0;
   OptionCursor cursor{nullptr, &to.record->optionList};
   Input entries = BodyOf(block);
-  if (Left(entries) > 0 && entries.end[-1] == kLineFeed) --entries.end;
   while (Left(entries) > 0) {
-    const OptionRow& row = RowOfLetter<kOptionLetters>(Peek(entries));
+    const OptionRow& row =
+        RowOf<kOptionLetters, &OptionRow::letter>(static_cast<uint8_t>(Peek(entries)));
     Skip(entries, 2);
     const uint32_t value = ReadValue(entries);
     if (row.kind == OptionKind::None) continue;

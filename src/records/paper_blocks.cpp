@@ -1,10 +1,13 @@
 #include "records/paper_blocks.h"
 
+#include "names/name_index.h"
 #include "records/item_list.h"
 #include "records/reply_tables.h"
 
 namespace stm {
 namespace {
+
+constexpr uint32_t kMostOfField = 7;  // with its delimiter
 
 uint16_t PaperCode(std::string_view value) {
   return static_cast<uint16_t>(LookupNameCode<kPaperSizes>(value));
@@ -53,8 +56,8 @@ void ParseEntries(const Block& block, Filling to) {
 
   Fields fields = FieldsOf(block);
   while (!AtEnd(fields)) {
-    const auto key = static_cast<uint16_t>(rule.idOf(NextField(fields, 8)));
-    const uint16_t value = rule.valueOf(NextField(fields, 8));
+    const auto key = static_cast<uint16_t>(rule.idOf(NextField(fields, kMostOfField)));
+    const uint16_t value = rule.valueOf(NextField(fields, kMostOfField));
     auto* node = FindItem(to.record->*rule.list, key);
     if (!node && cursor) {
       node = cursor;

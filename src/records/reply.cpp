@@ -3,9 +3,9 @@
 #include <algorithm>
 
 #include "records/configuration_blocks.h"
-#include "records/letter_index.h"
 #include "records/option_blocks.h"
 #include "records/paper_blocks.h"
+#include "records/row_index.h"
 #include "records/scanners.h"
 #include "records/status_block.h"
 #include "stmdata/stmdata.h"
@@ -13,27 +13,29 @@
 namespace stm {
 namespace {
 
-constexpr char kStatusLetter = 'S';  // of the one block with an end of its own
+using enum BlockEnd;
 
 struct BlockRow {
   char letter;
+  BlockEnd end;
   void (*parse)(const Block& block, Filling to);
   uint32_t groups;
 };
 
 constexpr BlockRow kBlocks[] = {
-    {kStatusLetter, ParseStatusBlock, GroupStatus | GroupStatusList},  // status
-    {'T', ParseTrayBlock, GroupTrays},                                 // paper sizes
-    {'Z', ParseLevelBlock, GroupTrays},                                // paper levels
-    {'L', ParseBinBlock, GroupBins},                                   // output bins
-    {'V', ParseVersionBlock, GroupModelInfo},                          // version texts
-    {'M', ParseNumberBlock, GroupModelInfo},                           // number
-    {'E', ParseEmulationBlock, GroupEmulation},                        // language in use
-    {'F', ParseFontBlock, GroupFonts},                                 // resident fonts
-    {'A', ParseOption4Block, GroupOptions},                            // option 4
-    {'C', ParseDuplexBlock, GroupDuplex},                              // duplex unit
-    {'D', ParseOptionBlock, GroupOptions},                             // optional units
-    {'\0', nullptr, 0},                                                // closing row: no block
+    // letter, end, parser, groups
+    {'S', LineOrMarker, ParseStatusBlock, GroupStatus | GroupStatusList},  // status
+    {'T', Line, ParseTrayBlock, GroupTrays},                               // paper sizes
+    {'Z', Line, ParseLevelBlock, GroupTrays},                              // paper levels
+    {'L', Line, ParseBinBlock, GroupBins},                                 // output bins
+    {'V', Line, ParseVersionBlock, GroupModelInfo},                        // version texts
+    {'M', Line, ParseNumberBlock, GroupModelInfo},                         // number
+    {'E', Line, ParseEmulationBlock, GroupEmulation},                      // language in use
+    {'F', Line, ParseFontBlock, GroupFonts},                               // resident fonts
+    {'A', Line, ParseOption4Block, GroupOptions},                          // option 4
+    {'C', Line, ParseDuplexBlock, GroupDuplex},                            // duplex unit
+    {'D', Line, ParseOptionBlock, GroupOptions},                           // optional units
+    {'\0', Line, nullptr, 0},                                              // closing row: no block
 };
 
 // Result: the groups of the blocks that were parsed.
@@ -46,10 +48,9 @@ uint32_t WalkReply(Input rest, Filling to) {
       Skip(rest, kEndLength);
       continue;
     }
-    const BlockRow& row = RowOfLetter<kBlocks>(static_cast<char>(letter));
+    const BlockRow& row = RowOf<kBlocks, &BlockRow::letter>(static_cast<uint8_t>(letter));
     if (!row.parse) break;
-    const uint32_t taken =
-        letter == kStatusLetter ? ScanStatusBlock(rest, block) : ScanBlock(rest, block);
+    const uint32_t taken = ScanBlock(rest, row.end, block);
     if (taken == 0) break;
     row.parse(block, to);
     groups |= row.groups;

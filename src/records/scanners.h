@@ -36,11 +36,11 @@ struct Field {
   char delimiter;         // 0 when none ended the field
 };
 
-// Reads a field and steps over it and its delimiter. A field takes at most `limit` - 1 bytes of the
-// input, the delimiter among them; what follows is left for the next field.
-inline Field ScanField(Input& input, uint32_t limit, char delimiter1, char delimiter2) {
+// Steps over the next field and its delimiter. A field takes at most `most` bytes of the input, its
+// delimiter among them; what follows is left for the next field.
+inline Field ScanField(Input& input, uint32_t most, char delimiter1, char delimiter2) {
   const char* start = input.position;
-  const char* stop = start + (Left(input) < limit - 1 ? Left(input) : limit - 1);
+  const char* stop = start + (Left(input) < most ? Left(input) : most);
   const char* at = start;
   while (at < stop && *at != delimiter1 && *at != delimiter2)
     ++at;
@@ -49,20 +49,8 @@ inline Field ScanField(Input& input, uint32_t limit, char delimiter1, char delim
   return {{start, static_cast<size_t>(at - start)}, ended ? *at : '\0'};
 }
 
-// The same, and a field without a delimiter within these bytes loses the last of them: it is the
-// delimiter's place, so that a text has `limit` - 2 characters at most.
-inline Field ReadField(Input& input, uint32_t limit, char delimiter1, char delimiter2) {
-  Field field = ScanField(input, limit, delimiter1, delimiter2);
-  if (field.text.size() == limit - 1) field.text.remove_suffix(1);
-  return field;
-}
-
-inline Field ScanField(Input& input, uint32_t limit, char delimiter) {
-  return ScanField(input, limit, delimiter, delimiter);
-}
-
-inline Field ReadField(Input& input, uint32_t limit, char delimiter) {
-  return ReadField(input, limit, delimiter, delimiter);
+inline Field ScanField(Input& input, uint32_t most, char delimiter) {
+  return ScanField(input, most, delimiter, delimiter);
 }
 
 // The value of the decimal digits at the start of `text`, modulo 2^32; 0 without a leading digit.

@@ -1,6 +1,6 @@
 #include "status/dominant_status.h"
 
-#include "status/code_index.h"
+#include "records/row_index.h"
 #include "status/priority_table.h"
 #include "status/record_view.h"
 
@@ -9,8 +9,7 @@ namespace {
 
 // The row of a listed code, or the closing row.
 uint32_t FindPriorityRow(uint32_t code) {
-  static constexpr CodeIndex kIndex = IndexByCode(kPriorityTable);
-  return RowOfCode(kIndex, FoldServiceCall(code));
+  return RowNumber<kPriorityTable, &PriorityRow::code>(FoldServiceCall(code));
 }
 
 bool ShowsPrinting(const StatusView& view, uint32_t priority) {

@@ -1,7 +1,7 @@
 // Which icon shows a record's state, which one a paper level, and the entries of the parts table.
 #include <cstring>
 
-#include "status/code_index.h"
+#include "records/row_index.h"
 #include "status/dominant_status.h"
 #include "status/icon_table.h"
 #include "status/last_error.h"
@@ -14,8 +14,7 @@ namespace {
 
 const char* StateIcon(uint32_t code, bool online) {
   if (!online && code <= kLastMildCode) return kOfflineIcon;
-  static constexpr CodeIndex kIndex = IndexByCode(kErrPartsTable);
-  return kErrPartsTable[RowOfCode(kIndex, code)].icon;
+  return RowOf<kErrPartsTable, &IconRow::code>(code).icon;
 }
 
 const char* PaperLevelIcon(uint32_t level) {

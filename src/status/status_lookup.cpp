@@ -1,5 +1,5 @@
 // Status rows of a record, without a choice among several statuses.
-#include "status/code_index.h"
+#include "records/row_index.h"
 #include "status/last_error.h"
 #include "status/status_table.h"
 #include "stmdata/stmdata.h"
@@ -7,8 +7,7 @@
 namespace stm {
 
 const StatusRow& FindStatusRow(uint32_t code) {
-  static constexpr CodeIndex kIndex = IndexByCode(kStatusTable);
-  return kStatusTable[RowOfCode(kIndex, code)];
+  return RowOf<kStatusTable, &StatusRow::code>(code);
 }
 
 namespace {

@@ -1,10 +1,7 @@
 #include "records/item_list.h"
 
 #include "doctest/doctest.h"
-#include "names/emulation_codes.h"
-#include "names/font_names.h"
 #include "records/record.h"
-#include "records/reply_tables.h"
 #include "support.h"
 
 namespace {
@@ -129,59 +126,4 @@ TEST_CASE("blocks come from the room as long as it lasts, zero-filled, then from
   CHECK(!stm::HasBlock(room, room.bytes + sizeof room.bytes));
   for (void* block : blocks)
     stm::ReleaseBlock(&room, block);
-}
-
-TEST_CASE("a name that no row holds gets the closing row's code") {
-  static constexpr stm::NameCode table[] = {{"A", 1},        {"AB", 2},       {"A", 3},
-                                            {"GOTHIC-B", 4}, {"MICRIC-B", 5}, {"GOTHIC-BB-B", 6},
-                                            {"ABCD", 7},     {nullptr, 255}};
-  static constexpr stm::NameCode empty[] = {{nullptr, 9}};
-  struct {
-    const char* name;
-    const stm::NameCode* table;
-    int32_t code;
-  } const rows[] = {
-      {"A", table, 1},     {"AB", table, 2}, {"a", table, 255},    {"", table, 255},
-      {"ABC", table, 255}, {"A", empty, 9},  {nullptr, table, -1}, {"A", nullptr, -1},
-  };
-  for (const auto& row : rows)
-    CHECK(stm::LookupNameCode(row.name, row.table) == row.code);
-  const struct {
-    std::string_view piece;
-    int32_t code;
-  } pieces[] = {
-      {{"ABC", 2}, 2},    {{"A\0B", 3}, 1},     {"AA", 255},       {"", 255},
-      {"GOTHIC-B", 4},    {"MICRIC-B", 5},      {"XOTHIC-B", 255}, {{"MICRIC-B\0", 9}, 5},
-      {"GOTHIC-BB-B", 6}, {"GOTHICBBB-B", 255}, {"OTHIC-B", 255},  {"ABCD", 7},
-      {"ABC\xC4", 255},   {{"\0A", 2}, 255},
-  };
-  for (const auto& row : pieces) {
-    CAPTURE(row.piece);
-    CHECK(stm::LookupNameCode<table>(row.piece) == row.code);
-    CHECK(stm::LookupNameCode<empty>(row.piece) == 9);
-  }
-}
-
-namespace {
-
-// Every name of the table, and names like it that the table may lack.
-template <const auto& kTable>
-void CheckIndex() {
-  for (const stm::NameCode& row : kTable) {
-    const std::string name = row.name.text ? row.name.text : "?";
-    for (const std::string& asked : {name, name + "0", "0" + name, name.substr(1)}) {
-      CAPTURE(asked);
-      CHECK(stm::LookupNameCode<kTable>(asked) == stm::LookupNameCode(asked.c_str(), kTable));
-    }
-  }
-}
-
-}  // namespace
-
-TEST_CASE("the index of a table leads to the row that a search finds") {
-  CheckIndex<stm::kTrayLetters>();
-  CheckIndex<stm::kBinNumbers>();
-  CheckIndex<stm::kPaperSizes>();
-  CheckIndex<stm::kEmulationCodeTable>();
-  CheckIndex<stm::kFontNameTable>();
 }

@@ -12,46 +12,37 @@ struct FieldCase {
   std::string input;
   char delimiter1;
   char delimiter2;
-  uint32_t limit;
-  std::string scanned;
-  std::string read;
+  uint32_t most;
+  std::string text;
   char delimiter;
   uint32_t left;
 };
 
 const FieldCase kFields[] = {
-    {"up to the delimiter", "12\r99", '\r', '\r', 8, "12", "12", '\r', 2},
-    {"cut below the limit", "abcdefghi", '\r', '\r', 8, "abcdefg", "abcdef", '\0', 2},
-    {"the delimiter is the last byte that fits", "abcdef\rh", '\r', '\r', 8, "abcdef", "abcdef",
-     '\r', 1},
-    {"the delimiter comes one byte too late", "abcdefg\r", '\r', '\r', 8, "abcdefg", "abcdef", '\0',
-     1},
-    {"the first of two delimiters", "1,2\r", ',', '\r', 8, "1", "1", ',', 2},
-    {"the second of two delimiters", "1\r2,", ',', '\r', 8, "1", "1", '\r', 2},
-    {"a zero byte is a byte", "1\0\x32\r"s, '\r', '\r', 8, "1\0\x32"s, "1\0\x32"s, '\r', 0},
-    {"the input ends first", "12", '\r', '\r', 8, "12", "12", '\0', 0},
-    {"an empty field", "\r5", '\r', '\r', 8, "", "", '\r', 1},
-    {"nothing to read", "", '\r', '\r', 8, "", "", '\0', 0},
-    {"room for a delimiter only", "12\r", '\r', '\r', 2, "1", "", '\0', 2},
+    {"up to the delimiter", "12\r99", '\r', '\r', 7, "12", '\r', 2},
+    {"cut where it takes too much", "abcdefghi", '\r', '\r', 7, "abcdefg", '\0', 2},
+    {"the delimiter is the last byte that fits", "abcdef\rh", '\r', '\r', 7, "abcdef", '\r', 1},
+    {"the delimiter comes one byte too late", "abcdefg\r", '\r', '\r', 7, "abcdefg", '\0', 1},
+    {"the first of two delimiters", "1,2\r", ',', '\r', 7, "1", ',', 2},
+    {"the second of two delimiters", "1\r2,", ',', '\r', 7, "1", '\r', 2},
+    {"a zero byte is a byte", "1\0\x32\r"s, '\r', '\r', 7, "1\0\x32"s, '\r', 0},
+    {"the input ends first", "12", '\r', '\r', 7, "12", '\0', 0},
+    {"an empty field", "\r5", '\r', '\r', 7, "", '\r', 1},
+    {"nothing to read", "", '\r', '\r', 7, "", '\0', 0},
+    {"a single byte", "12\r", '\r', '\r', 1, "1", '\0', 2},
 };
 
 }  // namespace
 
-TEST_CASE("a field ends at its delimiter, its limit or the input's end") {
+TEST_CASE("a field ends at its delimiter, where it takes too much, or at the input's end") {
   for (const FieldCase& row : kFields) {
     CAPTURE(row.why);
     test::GuardedBytes bytes(row.input);
-    const stm::Input from{bytes.data(), bytes.data() + bytes.size()};
-    stm::Input scanning = from;
-    stm::Input reading = from;
-    const stm::Field scanned = stm::ScanField(scanning, row.limit, row.delimiter1, row.delimiter2);
-    const stm::Field read = stm::ReadField(reading, row.limit, row.delimiter1, row.delimiter2);
-    CHECK(scanned.text == row.scanned);
-    CHECK(read.text == row.read);
-    CHECK(scanned.delimiter == row.delimiter);
-    CHECK(read.delimiter == row.delimiter);
-    CHECK(stm::Left(scanning) == row.left);
-    CHECK(reading.position == scanning.position);
+    stm::Input input{bytes.data(), bytes.data() + bytes.size()};
+    const stm::Field field = stm::ScanField(input, row.most, row.delimiter1, row.delimiter2);
+    CHECK(field.text == row.text);
+    CHECK(field.delimiter == row.delimiter);
+    CHECK(stm::Left(input) == row.left);
   }
 }
 
@@ -69,7 +60,7 @@ TEST_CASE("a decimal number ends at the first byte that is no digit") {
   }
 }
 
-TEST_CASE("a block letter needs an escape before it and a byte behind that") {
+TEST_CASE("a block letter needs an escape before it") {
   struct {
     std::string bytes;
     int letter;
@@ -90,8 +81,8 @@ TEST_CASE("a block is scanned up to its LF or its limit and read field by field"
     std::string bytes;
     uint32_t taken;
     uint32_t crCount;
-    std::string fields;  // with limit 8, each followed by a bar
-    std::string rest;    // of the whole block with limit 8
+    std::string fields;  // of 7 bytes at most, each followed by a bar
+    std::string rest;    // of the whole block, of 6 bytes at most
   } rows[] = {
       {"up to the LF", "\x1BT\r1\r22\n\x1B", 8, 2, "1|22|", "1\r22"},
       {"cut off before its LF", "\x1BT\r1\r22", 0, 0, "", ""},
@@ -122,24 +113,26 @@ TEST_CASE("a block is scanned up to its LF or its limit and read field by field"
     CAPTURE(row.why);
     test::GuardedBytes bytes(row.bytes);
     stm::Block block{};
-    REQUIRE(stm::ScanBlock({bytes.data(), bytes.data() + bytes.size()}, block) == row.taken);
+    const stm::Input input{bytes.data(), bytes.data() + bytes.size()};
+    REQUIRE(stm::ScanBlock(input, stm::BlockEnd::Line, block) == row.taken);
     if (row.taken == 0) continue;
     CHECK(block.crCount == row.crCount);
-    CHECK(stm::ReadRest(stm::FieldsOf(block), 8) == row.rest);
+    CHECK(stm::ReadRest(block, stm::FieldsOf(block), 7) == row.rest);
     std::string fields;
     for (stm::Fields left = stm::FieldsOf(block); !stm::AtEnd(left);)
-      fields.append(stm::NextField(left, 8)).append("|");
+      fields.append(stm::NextField(left, 7)).append("|");
     CHECK(fields == row.fields);
   }
 }
 
-TEST_CASE("nothing is read behind a block's last field") {
+TEST_CASE("nothing is read after a block's last field") {
   test::GuardedBytes bytes(std::string("\x1BV\rSYS\n"));
   stm::Block block{};
-  REQUIRE(stm::ScanBlock({bytes.data(), bytes.data() + bytes.size()}, block) == 7);
+  const stm::Input input{bytes.data(), bytes.data() + bytes.size()};
+  REQUIRE(stm::ScanBlock(input, stm::BlockEnd::Line, block) == 7);
   stm::Fields fields = stm::FieldsOf(block);
-  CHECK(stm::NextField(fields, 8) == "SYS");
-  CHECK(stm::NextField(fields, 8).empty());
-  CHECK(stm::ReadRest(fields, 8).empty());
+  CHECK(stm::NextField(fields, 7) == "SYS");
+  CHECK(stm::NextField(fields, 7).empty());
+  CHECK(stm::ReadRest(block, fields, 7).empty());
   CHECK(stm::AtEnd(fields));
 }

@@ -6,11 +6,12 @@
 #include "names/emulation_codes.h"
 #include "names/font_names.h"
 #include "names/model_names.h"
+#include "names/name_index.h"
 #include "net/network_tables.h"
 #include "pm/derivation.h"
 #include "pm/name_tables.h"
 #include "print_manager.h"
-#include "records/status_block.h"
+#include "records/status_classes.h"
 #include "status/dominant_status.h"
 
 namespace {
@@ -24,8 +25,8 @@ void Add(Checksum& sum, const char* text) {
 template <const auto& table>
 void AddNames(Checksum& sum) {
   for (const stm::NameCode& row : table) {
-    if (row.name) Add(sum, row.name);
-    sum.Add(static_cast<uint32_t>(stm::LookupNameCode(row.name ? row.name : "?", table)));
+    if (row.name.data()) Add(sum, row.name.data());
+    sum.Add(static_cast<uint32_t>(stm::LookupNameCode<table>(row.name.data() ? row.name : "?")));
   }
 }
 
