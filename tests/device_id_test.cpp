@@ -101,7 +101,7 @@ TEST_CASE("a Device ID may be the record's own string") {
 TEST_CASE("a missing Device ID counts as an empty one; a missing record is refused") {
   test::Record record;
   CHECK(SetModelInfoExFromDeviceID(&record, nullptr, 5) == 1);
-  CHECK(test::Describe(record) == "tag=404 size=112");
+  CHECK(test::Describe(record) == "tag=404 sized");
   CHECK(SetModelInfoExFromDeviceID(nullptr, "MFG:A;", 6) == 0);
   CHECK(SetModelInfoExFromDeviceID(nullptr, nullptr, 0) == 0);
 }
