@@ -1,22 +1,20 @@
 #include "resources/module.h"
 
-#include <atomic>
-
-#include "platform/shared_value.h"
 #include "stmdata/stmdata.h"
 
 namespace {
 
-std::atomic<HINSTANCE> moduleHandle{nullptr};
+// Written once, when the loader attaches the library and no thread can have called it yet.
+HINSTANCE moduleHandle = nullptr;
 constexpr DWORD kProcessAttach = 1;
 
 }  // namespace
 
 HINSTANCE stm::ModuleHandle() {
-  return moduleHandle.load(std::memory_order_relaxed);
+  return moduleHandle;
 }
 
 extern "C" BOOL STM_CALL DllMain(HINSTANCE module, DWORD reason, void*) {
-  if (reason == kProcessAttach) stm::SetShared(moduleHandle, module);
+  if (reason == kProcessAttach) moduleHandle = module;
   return 1;
 }

@@ -2,8 +2,6 @@
 
 #include <atomic>
 
-#include "platform/shared_value.h"
-
 namespace stm {
 namespace {
 
@@ -35,8 +33,8 @@ bool EnterObject(Object* object, Kind kind) {
     if (!entry.object.compare_exchange_strong(none, object, std::memory_order_acq_rel)) continue;
     const uint32_t serial = number % 0xFFFFF + 1;
     object->handle = serial << kPlaceBits | place;
-    SetShared(entry.kind, kind);
-    SetShared(entry.handle, object->handle, std::memory_order_release);
+    entry.kind.store(kind, std::memory_order_relaxed);
+    entry.handle.store(object->handle, std::memory_order_release);
     return true;
   }
   GlobalFree(object);
@@ -53,8 +51,8 @@ Object* FindObject(const void* handle, Kind kind) {
 
 void ReleaseObject(Object* object) {
   Entry& entry = table[object->handle % kMostHandles];
-  SetShared(entry.handle, 0u);
-  SetShared<Object*>(entry.object, nullptr, std::memory_order_release);
+  entry.handle.store(0, std::memory_order_relaxed);
+  entry.object.store(nullptr, std::memory_order_release);
   GlobalFree(object);
 }
 
