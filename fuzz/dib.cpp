@@ -1,9 +1,9 @@
 // Any bytes as a packed bitmap, painted through a clipped blit and compared, pixel by pixel, with a
 // plain decoder that expands the whole picture first.
 //
-// Input: which of the header's fields to set (1 byte), placement, operation and block width (8
-// bytes), then the bitmap. Most inputs get a header that is accepted, so that the pixel bytes are
-// reached. Frames are wide enough for every way of painting a run, and low: time goes to decoding.
+// Input: which of the header's fields to set (1 byte), placement and operation (8 bytes), then the
+// bitmap. Most inputs get a header that is accepted, so that the pixel bytes are reached. Frames
+// are wide enough for every way of painting a run, and low: time goes to decoding.
 #include <algorithm>
 #include <cstdint>
 #include <cstdlib>
@@ -133,11 +133,10 @@ extern "C" int LLVMFuzzerTestOneInput(const uint8_t* data, size_t size) {
   const stm::Placement to{number(3),        number(4) / 16, data[5] % 64 - 2,
                           data[6] % 16 - 1, number(7) / 2,  number(8) / 16};
   const uint32_t rop = kOperations[data[2] / 8 % std::size(kOperations)];
-  const uint32_t block = 1u << data[1] / 64;  // 1, 2, 4 or 8 pixels
   // Of its own as well, for the pixels beyond it.
   const std::unique_ptr<uint32_t[]> pixels(new uint32_t[kWidth * kHeight]);
   std::fill_n(pixels.get(), kWidth * kHeight, kBackground);
-  Require(stm::PaintDib(dib, {pixels.get(), kWidth, kHeight}, to, rop, block));
+  Require(stm::PaintDib(dib, {pixels.get(), kWidth, kHeight}, to, rop));
 
   const bool small = static_cast<int64_t>(dib.width) * dib.height <= kMostPixels;
   if (dib.compression != stm::DibPlain && small) RequirePixels(dib, to, rop, pixels.get());

@@ -2,13 +2,13 @@
 
 #include <algorithm>
 #include <cstring>
-#include <iterator>
+
+#include "platform/linux/brush.h"
 
 namespace stm {
 namespace {
 
 constexpr uint32_t kHeaderSize = 40;
-constexpr uint32_t kColorMask = 0x00FFFFFF;
 
 uint32_t Word(const uint8_t* p) {
   return p[0] | static_cast<uint32_t>(p[1]) << 8;
@@ -19,17 +19,10 @@ uint32_t Long(const uint8_t* p) {
 }
 
 uint32_t Color(const uint8_t* p) {
-  return Long(p) & kColorMask;
+  return Word(p) | static_cast<uint32_t>(p[2]) << 16;
 }
 
-// What a source colour makes of a destination pixel: (pixel & keep) ^ flip. Every operation on
-// source and destination has this form once the source is known.
-struct Stroke {
-  uint32_t keep;
-  uint32_t flip;
-};
-
-// The operation where the source's bits are 0, and where they are 1.
+// The strokes of an operation where the source's bits are 0, and where they are 1.
 struct Operation {
   Stroke zeros;
   Stroke ones;
@@ -49,27 +42,22 @@ Stroke StrokeOf(const Operation& operation, uint32_t color) {
 // One stroke more than a byte can select: the black of pixels that the bytes leave out.
 constexpr uint32_t kMissing = 256;
 
-// Combines the pixels of a long run. The arguments travel in registers, in 32 bits only when asked
-// to.
-#ifdef __i386__
-#define STM_BRUSH __attribute__((regparm(3))) void
-#else
-#define STM_BRUSH void
-#endif
-using Brush = STM_BRUSH (*)(uint32_t* pixel, int32_t count, const Stroke& stroke);
-
+// A blit. Columns and rows are the frame's.
 struct Painter {
   Frame frame;
-  Brush brush;
-  int32_t offsetX;   // of the bitmap's left edge in the frame
-  int32_t firstRow;  // of the frame, for the bitmap's first line
-  int32_t left;      // what is painted, in the frame's coordinates
+  int32_t offsetX;   // column of the bitmap's left edge
+  int32_t firstRow;  // of the bitmap's first line
+  int32_t rowStep;   // from a line to the next: 1 or -1
+  int32_t lines;     // of the bitmap
+  int32_t left;      // what is painted
   int32_t top;
   int32_t right;
   int32_t bottom;
   Operation operation;
-  Stroke strokes[kMissing + 1];
+  Stroke strokes[kMissing + 1];  // by palette index
 };
+
+// ---- Painting a run -----------------------------------------------------------------------------
 
 // A row of the frame, painted from `left` to `right`. On a hidden one nothing lies between them.
 struct Row {
@@ -78,100 +66,17 @@ struct Row {
   int32_t right;
 };
 
-// The row that a line of the bitmap falls into.
-Row RowOf(const Dib& dib, const Painter& painter, int32_t line) {
-  const int32_t y = painter.firstRow + (dib.topDown ? line : -line);
+Row RowOf(const Painter& painter, int32_t line) {
+  const int32_t y = painter.firstRow + painter.rowStep * line;
   if (y < painter.top || y >= painter.bottom) return {nullptr, painter.right, painter.right};
   return {painter.frame.pixels + y * painter.frame.width, painter.left, painter.right};
 }
 
-uint32_t Brushed(uint32_t pixel, const Stroke& stroke) {
-  return (pixel & stroke.keep) ^ stroke.flip;
-}
+// All of these paint the columns `x` to `end`, of which `end` is not beyond the row's right.
 
-// ---- Runs -------------------------------------------------------------------------------------
-
-// Pixels side by side that are combined at once.
-using Four = uint32_t __attribute__((vector_size(16)));
-using Eight = uint32_t __attribute__((vector_size(32)));
-
-// Paints a block or more. The last block may overlap the one before it, and writes the same there:
-// it is read before anything is written.
-template <class Block>
-__attribute__((always_inline)) inline void PaintBlocks(uint32_t* pixel, int32_t count,
-                                                       const Stroke& stroke) {
-  constexpr int32_t kSize = sizeof(Block) / sizeof *pixel;
-  const Block keep = stroke.keep - Block{};
-  const Block flip = stroke.flip - Block{};
-  uint32_t* const last = pixel + count - kSize;
-  if (stroke.keep == 0) {
-    for (; last - pixel > 3 * kSize; pixel += 4 * kSize) {
-      for (int32_t i = 0; i < 4; ++i)
-        std::memcpy(pixel + i * kSize, &flip, sizeof flip);
-    }
-    for (; pixel < last; pixel += kSize)
-      std::memcpy(pixel, &flip, sizeof flip);
-    std::memcpy(last, &flip, sizeof flip);
-    return;
-  }
-  Block end;
-  std::memcpy(&end, last, sizeof end);
-  end = (end & keep) ^ flip;
-  for (; pixel < last; pixel += kSize) {
-    Block block;
-    std::memcpy(&block, pixel, sizeof block);
-    block = (block & keep) ^ flip;
-    std::memcpy(pixel, &block, sizeof block);
-  }
-  std::memcpy(last, &end, sizeof end);
-}
-
-// The shortest run for a brush.
-constexpr int32_t kLongRun = kWidestBlock;
-
-// A function for processors that have what the build does not ask for, and whether this one has it.
-// Other architectures have all that is needed here in every processor.
-#if defined(__i386__) || defined(__x86_64__)
-#define STM_PROCESSOR(feature) __attribute__((target(feature)))
-#define STM_PROCESSOR_HAS(feature) __builtin_cpu_supports(feature)
-#else
-#define STM_PROCESSOR(feature)
-#define STM_PROCESSOR_HAS(feature) true
-#endif
-
-STM_PROCESSOR("avx2") STM_BRUSH BrushEights(uint32_t* pixel, int32_t count, const Stroke& stroke) {
-  PaintBlocks<Eight>(pixel, count, stroke);
-}
-
-STM_PROCESSOR("sse2") STM_BRUSH BrushFours(uint32_t* pixel, int32_t count, const Stroke& stroke) {
-  PaintBlocks<Four>(pixel, count, stroke);
-}
-
-STM_BRUSH BrushSingles(uint32_t* pixel, int32_t count, const Stroke& stroke) {
-  for (uint32_t* const end = pixel + count; pixel != end; ++pixel)
-    *pixel = Brushed(*pixel, stroke);
-}
-
-// The build asks for no particular processor: the brush is chosen where it runs.
-Brush ChooseBrush(uint32_t widestBlock) {
-  if (widestBlock >= 8 && STM_PROCESSOR_HAS("avx2")) return BrushEights;
-  return widestBlock >= 4 && STM_PROCESSOR_HAS("sse2") ? BrushFours : BrushSingles;
-}
-
-void PaintPixels(const Painter& painter, uint32_t* pixel, int32_t count, const Stroke& stroke) {
-  if (count >= kLongRun) {
-    painter.brush(pixel, count, stroke);
-  } else {
-    for (; count > 0; --count, ++pixel)
-      *pixel = Brushed(*pixel, stroke);
-  }
-}
-
-// The columns `x` to `end` of the row; `end` is not beyond those that are painted.
-void PaintRun(const Painter& painter, const Row& row, int32_t x, int32_t end,
-              const Stroke& stroke) {
+void PaintRun(const Row& row, int32_t x, int32_t end, const Stroke& stroke) {
   const int32_t begin = std::max(x, row.left);
-  if (begin < end) PaintPixels(painter, row.pixels + begin, end - begin, stroke);
+  if (begin < end) BrushRun(row.pixels + begin, end - begin, stroke);
 }
 
 void PaintPair(const Row& row, int32_t x, int32_t end, const Stroke& even, const Stroke& odd) {
@@ -179,116 +84,163 @@ void PaintPair(const Row& row, int32_t x, int32_t end, const Stroke& even, const
     row.pixels[c] = Brushed(row.pixels[c], (c - x) & 1 ? odd : even);
 }
 
-// ---- Single pixels ----------------------------------------------------------------------------
-
-// The first index is that of column `x`.
+// Each pixel has an index of its own.
 template <uint32_t bits>
-void PaintIndices(const Painter& painter, const Row& row, int32_t x, int32_t end,
-                  const uint8_t* bytes) {
+void PaintIndices(const Row& row, int32_t x, int32_t end, const uint8_t* bytes,
+                  const Stroke* strokes) {
   constexpr uint32_t kPerByte = 8 / bits;
-  const int32_t begin = std::max(x, row.left);
-  if (begin >= end) return;
-  uint32_t* pixel = row.pixels + begin;
-  const auto paint = [&](uint32_t byte, uint32_t place) {
-    const uint32_t index = byte >> (8 - bits - place * bits) & ((1u << bits) - 1);
-    *pixel = Brushed(*pixel, painter.strokes[index]);
-    ++pixel;
-  };
-  const auto count = static_cast<uint32_t>(end - x);
-  auto i = static_cast<uint32_t>(begin - x);
-  for (; i < count && i % kPerByte != 0; ++i)
-    paint(bytes[i / kPerByte], i % kPerByte);
-  for (; i + kPerByte <= count; i += kPerByte) {
-    const uint32_t byte = bytes[i / kPerByte];
-    for (uint32_t place = 0; place < kPerByte; ++place)
-      paint(byte, place);
-  }
-  for (; i < count; ++i)
-    paint(bytes[i / kPerByte], i % kPerByte);
-}
-
-void PaintColors(const Painter& painter, const Row& row, const uint8_t* bytes) {
-  for (int32_t c = row.left; c < row.right; ++c) {
-    const uint8_t* p = bytes + 3 * (c - painter.offsetX);
-    const uint32_t color = Word(p) | static_cast<uint32_t>(p[2]) << 16;
-    row.pixels[c] = Brushed(row.pixels[c], StrokeOf(painter.operation, color));
+  for (int32_t c = std::max(x, row.left); c < end; ++c) {
+    const auto i = static_cast<uint32_t>(c - x);
+    const uint32_t shift = 8 - bits - i % kPerByte * bits;
+    const uint32_t index = bytes[i / kPerByte] >> shift & ((1u << bits) - 1);
+    row.pixels[c] = Brushed(row.pixels[c], strokes[index]);
   }
 }
 
+// Each pixel has a colour of its own.
+void PaintColors(const Row& row, int32_t x, int32_t end, const uint8_t* bytes,
+                 const Operation& operation) {
+  for (int32_t c = std::max(x, row.left); c < end; ++c)
+    row.pixels[c] = Brushed(row.pixels[c], StrokeOf(operation, Color(bytes + 3 * (c - x))));
+}
+
+// ---- Uncompressed lines -------------------------------------------------------------------------
+
+void PaintPlainLine(const Painter& painter, uint32_t bitsPerPixel, const Row& row,
+                    const uint8_t* bytes) {
+  const int32_t x = painter.offsetX;
+  switch (bitsPerPixel) {
+    case 1:
+      return PaintIndices<1>(row, x, row.right, bytes, painter.strokes);
+    case 4:
+      return PaintIndices<4>(row, x, row.right, bytes, painter.strokes);
+    case 8:
+      return PaintIndices<8>(row, x, row.right, bytes, painter.strokes);
+    default:
+      return PaintColors(row, x, row.right, bytes, painter.operation);
+  }
+}
+
+// A line is padded to a multiple of four bytes; one that is cut off is missing.
 void PaintPlain(const Dib& dib, const Painter& painter) {
   const uint64_t used = (static_cast<uint64_t>(dib.width) * dib.bitsPerPixel + 7) / 8;
   const uint64_t stride = (used + 3) / 4 * 4;
   const auto size = static_cast<uint64_t>(dib.end - dib.bits);
   for (int32_t line = 0; line < dib.height; ++line) {
-    const Row row = RowOf(dib, painter, line);
-    if (!row.pixels) continue;
+    const Row row = RowOf(painter, line);
     const uint64_t offset = static_cast<uint64_t>(line) * stride;
-    if (offset + used > size) {
-      PaintRun(painter, row, row.left, row.right, painter.strokes[kMissing]);
-      continue;
-    }
-    const uint8_t* bytes = dib.bits + offset;
-    switch (dib.bitsPerPixel) {
-      case 1:
-        PaintIndices<1>(painter, row, painter.offsetX, row.right, bytes);
-        break;
-      case 4:
-        PaintIndices<4>(painter, row, painter.offsetX, row.right, bytes);
-        break;
-      case 8:
-        PaintIndices<8>(painter, row, painter.offsetX, row.right, bytes);
-        break;
-      default:
-        PaintColors(painter, row, bytes);
-        break;
+    if (offset + used <= size) {
+      PaintPlainLine(painter, dib.bitsPerPixel, row, dib.bits + offset);
+    } else {
+      PaintRun(row, row.left, row.right, painter.strokes[kMissing]);
     }
   }
 }
 
-// ---- Run lengths ------------------------------------------------------------------------------
+// ---- Run lengths --------------------------------------------------------------------------------
 
-// What a run's second byte says: two indices in turn, one, or one that leaves pixels as they are.
-enum class Run : uint8_t { Pair, Single, Nothing };
-
-struct RunTable {
-  Run kinds[256];
-  Stroke strokes[256];  // of the single ones
+// RLE4 (two indices a byte) and RLE8, each step two bytes or more:
+//   count value        `count` pixels of the index or of the two indices in turn
+//   0 0                on to the next line
+//   0 1                the end
+//   0 2 dx dy          on by so many pixels and lines
+//   0 n bytes          n pixels one by one, padded to an even number of bytes
+struct Step {
+  enum Kind : uint32_t { Run, Singles, Jump, NextLine, End } kind;
+  int32_t pixels = 0;              // that the step goes on by in its line
+  uint32_t value = 0;              // of a run
+  int32_t lines = 0;               // of a jump
+  const uint8_t* bytes = nullptr;  // of single pixels
 };
 
+// Takes the next step from `in`. Bytes that break off within a step are the end; of single pixels
+// those that are there count.
 template <uint32_t bits>
-RunTable RunsOf(const Painter& painter) {
-  RunTable runs;
-  std::fill_n(runs.kinds, std::size(runs.kinds), Run::Pair);
-  for (uint32_t index = 0; index < 1u << bits; ++index) {
-    const Stroke& stroke = painter.strokes[index];
-    const bool nothing = stroke.keep == kColorMask && stroke.flip == 0;
-    const uint32_t value = bits == 4 ? index * 0x11 : index;
-    runs.kinds[value] = nothing ? Run::Nothing : Run::Single;
-    runs.strokes[value] = stroke;
+Step TakeStep(const uint8_t*& in, const uint8_t* end) {
+  if (end - in < 2) return {.kind = Step::End};
+  const uint32_t count = in[0];
+  const uint32_t value = in[1];
+  in += 2;
+  if (count > 0) return {.kind = Step::Run, .pixels = static_cast<int32_t>(count), .value = value};
+  if (value == 0) return {.kind = Step::NextLine};
+  if (value == 1 || (value == 2 && end - in < 2)) return {.kind = Step::End};
+  const uint8_t* const bytes = in;
+  if (value == 2) {
+    in += 2;
+    return {.kind = Step::Jump, .pixels = bytes[0], .lines = bytes[1]};
   }
-  return runs;
+  const uint32_t used = std::min((value * bits + 15) / 16 * 2, static_cast<uint32_t>(end - in));
+  in += used;
+  const uint32_t pixels = std::min(value, used * (8 / bits));
+  return {.kind = Step::Singles, .pixels = static_cast<int32_t>(pixels), .bytes = bytes};
 }
 
 // Where the decoder stands. It only moves forward, so each pixel is painted exactly once.
 struct Place {
-  int32_t x;  // of the frame, at most the painter's right
+  int32_t x;  // at most the painter's right
   int32_t line;
 };
 
-// Moves on and paints what is passed over black.
-Place MoveTo(const Dib& dib, const Painter& painter, Place at, int32_t x, int32_t line) {
+// Paints what lies between the two places, as missing.
+void PaintMissing(const Painter& painter, Place from, Place to) {
   const Stroke& missing = painter.strokes[kMissing];
-  for (; at.line < std::min(line, dib.height); ++at.line) {
-    PaintRun(painter, RowOf(dib, painter, at.line), at.x, painter.right, missing);
-    at.x = painter.offsetX;
+  for (; from.line < std::min(to.line, painter.lines); ++from.line) {
+    PaintRun(RowOf(painter, from.line), from.x, painter.right, missing);
+    from.x = painter.offsetX;
   }
-  if (at.line == dib.height) return at;
-  x = std::min(x, painter.right);
-  PaintRun(painter, RowOf(dib, painter, at.line), at.x, x, missing);
-  return {x, line};
+  if (from.line < painter.lines) PaintRun(RowOf(painter, from.line), from.x, to.x, missing);
 }
 
-// How many times the `period` bytes before `in` are there again from `in` on.
+// A run's second byte is one index, or two in turn. Result: false when every pixel stays as it is.
+template <uint32_t bits>
+bool PaintValue(const Painter& painter, const Row& row, int32_t x, int32_t end, uint32_t value) {
+  const Stroke& even = painter.strokes[bits == 4 ? value >> 4 : value];
+  const Stroke& odd = painter.strokes[bits == 4 ? value & 15 : value];
+  if (&even != &odd) {
+    PaintPair(row, x, end, even, odd);
+    return true;
+  }
+  if (ChangesNothing(even)) return false;
+  PaintRun(row, x, end, even);
+  return true;
+}
+
+struct LineEnd {
+  Place reached;
+  Place next;  // where the bytes go on
+  bool changed;
+};
+
+// Paints the steps of one line, from `at` on.
+template <uint32_t bits>
+LineEnd PaintLine(const Painter& painter, Place at, const uint8_t*& in, const uint8_t* end) {
+  const Row row = RowOf(painter, at.line);
+  bool changed = false;
+  for (;;) {
+    const Step step = TakeStep<bits>(in, end);
+    const int32_t x = std::min(at.x + step.pixels, row.right);
+    switch (step.kind) {
+      case Step::Run:
+        changed |= PaintValue<bits>(painter, row, at.x, x, step.value);
+        break;
+      case Step::Singles:
+        PaintIndices<bits>(row, at.x, x, step.bytes, painter.strokes);
+        changed = true;
+        break;
+      case Step::Jump:
+        return {at, {x, at.line + step.lines}, changed};
+      case Step::NextLine:
+        return {at, {painter.offsetX, at.line + 1}, changed};
+      case Step::End:
+        return {at, {painter.offsetX, painter.lines}, changed};
+    }
+    at.x = x;
+  }
+}
+
+// How many times the `period` bytes before `in` are there again from `in` on. The lines above and
+// below a layer's part are all alike and change nothing: to compare their bytes instead of reading
+// them halves a picture's time.
 int32_t Repetitions(const uint8_t* in, const uint8_t* end, int32_t period) {
   const auto word = [](const uint8_t* bytes) {
     uint64_t value;
@@ -301,92 +253,23 @@ int32_t Repetitions(const uint8_t* in, const uint8_t* end, int32_t period) {
   return static_cast<int32_t>(same - in) / period;
 }
 
-// RLE4 (two indices a byte) and RLE8, each step two bytes or more:
-//   count value        `count` pixels of the index or of the two indices in turn
-//   0 0                on to the next line
-//   0 1                the end
-//   0 2 dx dy          on by so many pixels and lines
-//   0 n bytes          n pixels one by one, padded to an even number of bytes
-//
-// Two versions each, and none of them within its caller: the loop then gets along with the few
-// registers that there are. Not `clipped` are bitmaps that lie in the frame but for their right.
-template <uint32_t bits, bool clipped>
-__attribute__((noinline)) void PaintRle(const Dib& dib, const Painter& painter) {
-  const RunTable runs = RunsOf<bits>(painter);
-  const int32_t right = painter.right;
-  const uint8_t* in = dib.bits;
-  const uint8_t* const last = dib.end - 1;
-  Place at{painter.offsetX, 0};
-  while (at.line < dib.height) {
-    const Row row =
-        clipped ? RowOf(dib, painter, at.line)
-                : Row{painter.frame.pixels + (painter.firstRow - at.line) * painter.frame.width,
-                      painter.offsetX, right};
-    // The line's first byte as long as its steps leave every pixel as it is.
-    const uint8_t* unchanged = at.x == painter.offsetX ? in : nullptr;
-    int32_t x = at.x;
-    for (;;) {
-      if (in >= last) {
-        MoveTo(dib, painter, {x, at.line}, 0, dib.height);
-        return;
-      }
-      const int32_t count = in[0];
-      const uint32_t value = in[1];
-      in += 2;
-      if (count > 0) {
-        const int32_t from = x;
-        x = std::min(x + count, right);
-        const Run kind = runs.kinds[value];
-        if (kind == Run::Nothing) continue;
-        unchanged = nullptr;
-        if (kind == Run::Pair)
-          PaintPair(row, from, x, painter.strokes[value >> 4], painter.strokes[value & 15]);
-        else if (clipped)
-          PaintRun(painter, row, from, x, runs.strokes[value]);
-        else
-          PaintPixels(painter, row.pixels + from, x - from, runs.strokes[value]);
-      } else if (value > 2) {
-        const auto left = static_cast<uint32_t>(dib.end - in);
-        const uint32_t used = std::min((value * bits + 15) / 16 * 2, left);
-        const auto pixels = static_cast<int32_t>(std::min(value, used * (8 / bits)));
-        const int32_t end = std::min(x + pixels, right);
-        PaintIndices<bits>(painter, row, x, end, in);
-        in += used;
-        x = end;
-        unchanged = nullptr;
-      } else if (value == 0 && x < right) {
-        at = MoveTo(dib, painter, {x, at.line}, painter.offsetX, at.line + 1);
-        break;
-      } else if (value == 0) {
-        at = {painter.offsetX, at.line + 1};
-        // The lines around a layer's part are all alike: their bytes are only compared.
-        if (unchanged) {
-          const auto period = static_cast<int32_t>(in - unchanged);
-          const int32_t lines = std::min(Repetitions(in, dib.end, period), dib.height - at.line);
-          in += lines * period;
-          at.line += lines;
-        }
-        break;
-      } else if (value == 2 && dib.end - in >= 2) {
-        at = MoveTo(dib, painter, {x, at.line}, x + in[0], at.line + in[1]);
-        in += 2;
-        break;
-      } else {
-        MoveTo(dib, painter, {x, at.line}, 0, dib.height);
-        return;
-      }
-    }
-  }
-}
-
 template <uint32_t bits>
 void PaintRle(const Dib& dib, const Painter& painter) {
-  const bool clipped = painter.left > painter.offsetX || painter.firstRow >= painter.bottom ||
-                       painter.firstRow - (dib.height - 1) < painter.top;
-  if (clipped) {
-    PaintRle<bits, true>(dib, painter);
-  } else {
-    PaintRle<bits, false>(dib, painter);
+  const uint8_t* in = dib.bits;
+  Place at = {painter.offsetX, 0};
+  while (at.line < painter.lines) {
+    const uint8_t* const begin = in;
+    const LineEnd line = PaintLine<bits>(painter, at, in, dib.end);
+    const bool whole = at.x == painter.offsetX && line.reached.x == painter.right &&
+                       line.next.x == painter.offsetX && line.next.line == at.line + 1;
+    if (!whole) PaintMissing(painter, line.reached, line.next);
+    at = line.next;
+    if (whole && !line.changed) {
+      const auto period = static_cast<int32_t>(in - begin);
+      const int32_t lines = std::min(Repetitions(in, dib.end, period), painter.lines - at.line);
+      in += lines * period;
+      at.line += lines;
+    }
   }
 }
 
@@ -427,8 +310,7 @@ bool ReadDib(const uint8_t* bytes, uint32_t size, Dib* dib) {
   return true;
 }
 
-bool PaintDib(const Dib& dib, const Frame& frame, const Placement& to, uint32_t rop,
-              uint32_t widestBlock) {
+bool PaintDib(const Dib& dib, const Frame& frame, const Placement& to, uint32_t rop) {
   const uint32_t truth = rop >> 16 & 15;
   if ((rop >> 20 & 15) != truth) return false;
 
@@ -444,10 +326,11 @@ bool PaintDib(const Dib& dib, const Frame& frame, const Placement& to, uint32_t 
 
   // What is visible lies within the frame, and the bitmap no further off than its own size.
   Painter painter;
-  painter.brush = ChooseBrush(widestBlock);
   painter.frame = frame;
   painter.offsetX = static_cast<int32_t>(offsetX);
   painter.firstRow = static_cast<int32_t>(offsetY) + (dib.topDown ? 0 : dib.height - 1);
+  painter.rowStep = dib.topDown ? 1 : -1;
+  painter.lines = dib.height;
   painter.left = static_cast<int32_t>(left);
   painter.top = static_cast<int32_t>(top);
   painter.right = static_cast<int32_t>(right);

@@ -47,13 +47,9 @@ struct Placement {
   int32_t sourceY;
 };
 
-// How many pixels of a run are combined at once: as many as the processor can, at most these.
-constexpr uint32_t kWidestBlock = 8;
-
 // Combines the bitmap with the frame by a ternary raster operation. Pixels that the bytes leave out
 // (skipped, cut off, or of an index without a palette entry) are black. Result: false, and the
 // frame untouched, when the operation needs a pattern.
-bool PaintDib(const Dib& dib, const Frame& frame, const Placement& placement, uint32_t rop,
-              uint32_t widestBlock = kWidestBlock);
+bool PaintDib(const Dib& dib, const Frame& frame, const Placement& placement, uint32_t rop);
 
 }  // namespace stm

@@ -61,9 +61,6 @@ std::string Text(const std::vector<uint32_t>& pixels, size_t width) {
   return text;
 }
 
-// Of a run, combined at once; what the processor lacks is done with the next smaller one.
-constexpr uint32_t kBlocks[] = {1, 4, 8};
-
 // The bitmap of bytes that hold one.
 template <class Bytes>
 Dib Whole(Bytes&& bytes) {
@@ -134,12 +131,10 @@ TEST_CASE("a bitmap's bytes become pixels, whatever they are") {
     const std::string bytes = Packed(row.header, row.bits);
     test::GuardedBytes guarded(bytes);
     const Dib dib = Whole(guarded);
-    for (uint32_t block : kBlocks) {
-      std::vector<uint32_t> pixels(static_cast<size_t>(dib.width * dib.height), 0xA5A5A5A5);
-      CHECK(stm::PaintDib(dib, {pixels.data(), dib.width, dib.height},
-                          {0, 0, dib.width, dib.height, 0, 0}, SRCCOPY, block));
-      CHECK(Text(pixels, static_cast<size_t>(dib.width)) == row.expected);
-    }
+    std::vector<uint32_t> pixels(static_cast<size_t>(dib.width * dib.height), 0xA5A5A5A5);
+    CHECK(stm::PaintDib(dib, {pixels.data(), dib.width, dib.height},
+                        {0, 0, dib.width, dib.height, 0, 0}, SRCCOPY));
+    CHECK(Text(pixels, static_cast<size_t>(dib.width)) == row.expected);
   }
 }
 
@@ -257,7 +252,7 @@ TEST_CASE("raster operations combine source and destination bit by bit") {
   }
 }
 
-TEST_CASE("runs of every length are combined alike in blocks of every width") {
+TEST_CASE("runs of every length are combined pixel by pixel") {
   for (int32_t length = 1; length <= 80; ++length) {
     CAPTURE(length);
     std::string bits = "\0\1"s;
@@ -266,26 +261,23 @@ TEST_CASE("runs of every length are combined alike in blocks of every width") {
     const std::string bytes = Packed({length, 1, 8, DibRle8, 2}, bits);
     const Dib dib = Whole(bytes);
     const uint32_t source = ColorOf('b');
-    for (uint32_t block : kBlocks) {
-      // Every pixel has a colour of its own, so that none is taken for its neighbour.
-      std::vector<uint32_t> before(static_cast<size_t>(length + 2));
-      for (size_t i = 0; i < before.size(); ++i)
-        before[i] = 0x00030201 * static_cast<uint32_t>(i);
-      for (uint32_t rop : {SRCCOPY, SRCPAINT, SRCAND, MERGEPAINT, 0x00660046u}) {
-        std::vector<uint32_t> expected = before;
-        for (size_t i = 1; i + 1 < expected.size(); ++i) {
-          const uint32_t d = before[i];
-          expected[i] = rop == SRCCOPY      ? source
-                        : rop == SRCPAINT   ? source | d
-                        : rop == SRCAND     ? source & d
-                        : rop == MERGEPAINT ? (~source & 0x00FFFFFF) | d
-                                            : source ^ d;
-        }
-        std::vector<uint32_t> pixels = before;
-        CHECK(stm::PaintDib(dib, {pixels.data(), length + 2, 1}, {1, 0, length, 1, 0, 0}, rop,
-                            block));
-        CHECK(pixels == expected);
+    // Every pixel has a colour of its own, so that none is taken for its neighbour.
+    std::vector<uint32_t> before(static_cast<size_t>(length + 2));
+    for (size_t i = 0; i < before.size(); ++i)
+      before[i] = 0x00030201 * static_cast<uint32_t>(i);
+    for (uint32_t rop : {SRCCOPY, SRCPAINT, SRCAND, MERGEPAINT, 0x00660046u}) {
+      std::vector<uint32_t> expected = before;
+      for (size_t i = 1; i + 1 < expected.size(); ++i) {
+        const uint32_t d = before[i];
+        expected[i] = rop == SRCCOPY      ? source
+                      : rop == SRCPAINT   ? source | d
+                      : rop == SRCAND     ? source & d
+                      : rop == MERGEPAINT ? (~source & 0x00FFFFFF) | d
+                                          : source ^ d;
       }
+      std::vector<uint32_t> pixels = before;
+      CHECK(stm::PaintDib(dib, {pixels.data(), length + 2, 1}, {1, 0, length, 1, 0, 0}, rop));
+      CHECK(pixels == expected);
     }
   }
 }
