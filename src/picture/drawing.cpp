@@ -18,31 +18,34 @@ struct Control {
   int32_t id;
 };
 
-// The bitmap at its own size to the origin of `target`.
-void BlitBitmap(HDC target, HBITMAP bitmap, uint32_t rop) {
+// The bitmap at its own size to the origin of `target`. Result: whether it was drawn.
+bool BlitBitmap(HDC target, HBITMAP bitmap, uint32_t rop) {
   const HDC source = CreateCompatibleDC(target);
-  if (!source) return;
+  if (!source) return false;
   const HGDIOBJ previous = SelectObject(source, bitmap);
   BITMAP size{};
   GetObjectA(bitmap, sizeof size, &size);
-  BitBlt(target, 0, 0, size.bmWidth, size.bmHeight, source, 0, 0, rop);
+  const bool drawn = BitBlt(target, 0, 0, size.bmWidth, size.bmHeight, source, 0, 0, rop);
   SelectObject(source, previous);
   DeleteDC(source);
+  return drawn;
 }
 
 // Everything that a blit needs is had and given back within it, so that a layer that cannot be
-// drawn costs no other layer.
-void BlitLayer(const Control& control, const char* bitmapName, uint32_t rop) {
-  if (rop == 0) return;
+// drawn costs no other layer. Result: whether it was drawn.
+bool BlitLayer(const Control& control, const char* bitmapName, uint32_t rop) {
+  if (rop == 0) return false;
   const HWND window = GetDlgItem(control.dialog, control.id);
-  if (!window) return;
+  if (!window) return false;
   const HDC target = GetDC(window);
-  if (!target) return;
+  if (!target) return false;
+  bool drawn = false;
   if (const HBITMAP bitmap = LoadModuleBitmap(bitmapName)) {
-    BlitBitmap(target, bitmap, rop);
+    drawn = BlitBitmap(target, bitmap, rop);
     DeleteObject(bitmap);
   }
   ReleaseDC(window, target);
+  return drawn;
 }
 
 // The parts are asked for without a record; the answer is complete all the same, but it leaves
@@ -52,13 +55,16 @@ void DrawPicture(const Control& control, uint32_t flags) {
   for (const uint8_t code : LastPartList()) {
     if (code == 0 || code >= kPartCount) continue;
     PrnPart part;
+    PatGetPrnParts(nullptr, code, &part);
+    const uint32_t firstRop = first ? SRCCOPY : part.ropSet;
+    const uint32_t secondRop = flags & DrawWithRopSet ? part.ropSet : part.ropClear;
+    bool drawn = false;
     if (!(flags & SkipFirstPass)) {
-      PatGetPrnParts(nullptr, code, &part);
-      BlitLayer(control, part.bitmapName, first ? SRCCOPY : part.ropSet);
+      drawn = BlitLayer(control, part.bitmapName, firstRop);
       first = false;
     }
-    PatGetPrnParts(nullptr, code, &part);
-    BlitLayer(control, part.bitmapName, flags & DrawWithRopSet ? part.ropSet : part.ropClear);
+    // Every operation of a part, made twice, gives what it gives once.
+    if (!drawn || firstRop != secondRop) BlitLayer(control, part.bitmapName, secondRop);
   }
 }
 
