@@ -32,8 +32,9 @@ Image DrawIcon(const std::string& name);
 
 std::string EncodePng(const Image& image);
 
-// Two pixels a character, scaled down to at most so many columns. `true_colour`: 24 bits, else the
-// 216 colours that nearly every terminal has.
+// For terminals, which have no pixels: the upper half block in one colour, on a ground of another,
+// shows two of them. Scaled down to at most so many columns. `true_colour`: 24 bits, else the 216
+// colours that nearly every terminal has.
 std::string HalfBlocks(const Image& image, int columns, bool true_colour);
 
 }  // namespace stmon

@@ -23,7 +23,7 @@ Image DrawParts(const PrnBitmap&) {
     if (const uint32_t* pixels = HostPicturePixels(dialog, kControl, &image.width, &image.height)) {
       image.pixels.assign(pixels, pixels + image.width * image.height);
       for (uint32_t& pixel : image.pixels)
-        pixel |= kOpaque;
+        pixel |= kOpaque;  // the fourth byte of a drawn pixel is 0
     }
   }
   HostDestroyDialog(dialog);
@@ -34,7 +34,7 @@ Image ReadIcon(const char* name) {
   Image image;
   const HICON icon = PatLoadIcon(name);
   if (!icon) return image;
-  HostReadIcon(icon, nullptr, 0, &image.width, &image.height);
+  HostReadIcon(icon, nullptr, 0, &image.width, &image.height);  // tells the size alone
   image.pixels.resize(static_cast<size_t>(image.width * image.height));
   const auto count = static_cast<uint32_t>(image.pixels.size());
   if (!HostReadIcon(icon, image.pixels.data(), count, &image.width, &image.height))

@@ -16,6 +16,7 @@ void Append(void* context, void* data, int size) {
 }  // namespace
 
 std::string EncodePng(const Image& image) {
+  // Pictures are opaque and need no alpha bytes; icons have see-through corners.
   bool opaque = true;
   for (const uint32_t pixel : image.pixels)
     opaque = opaque && pixel >> 24 == 255;

@@ -6,9 +6,9 @@
 #include <string>
 #include <vector>
 
-#include "words/languages.h"
 #include "words/reasons.h"
 #include "words/texts.h"
+#include "words/user_language.h"
 
 namespace stmon {
 

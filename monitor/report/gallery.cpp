@@ -11,7 +11,7 @@ namespace stmon {
 namespace {
 
 struct Build {
-  const char* name;  // of the files, behind the status code
+  const char* name;  // of the files, after the status code
   bool duplex;
   uint32_t trays;  // 1 to 3
 };
@@ -68,6 +68,7 @@ std::string FileStem(uint32_t code) {
   return std::string(digits.size() < 3 ? 3 - digits.size() : 0, '0') + digits;
 }
 
+// One file without links to others, so that it can be sent by mail or attached to a report.
 constexpr const char* kPageHead = R"(<!doctype html>
 <html lang="en"><head><meta charset="utf-8"><title>Printer states</title>
 <meta name="viewport" content="width=device-width, initial-scale=1">

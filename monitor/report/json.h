@@ -1,4 +1,4 @@
-// Pieces that several JSON documents share.
+// What several JSON documents share.
 #pragma once
 
 #include "nlohmann/json.hpp"

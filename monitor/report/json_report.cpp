@@ -8,6 +8,7 @@
 namespace stmon {
 namespace {
 
+// As a row of prtAlertTable would have it.
 Json AlertJson(const Reason& reason) {
   Json json{{"code", reason.alert}, {"name", AlertName(reason.alert)}, {"group", reason.group}};
   if (reason.supply != 0) json["supply_type"] = reason.supply;

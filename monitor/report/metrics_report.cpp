@@ -21,6 +21,7 @@ std::string LabelValue(std::string_view text) {
   return value;
 }
 
+// Prometheus wants the samples of one name together, after one HELP and one TYPE line.
 struct Writer {
   std::string text;
   std::string printer;  // label and value, as it stands in every sample

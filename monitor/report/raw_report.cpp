@@ -7,6 +7,8 @@
 namespace stmon {
 namespace {
 
+// For people who look at bytes because something is wrong. A letter means one thing as a request
+// and another as a block.
 struct LetterRow {
   char letter;
   const char* asked;     // as a request
@@ -94,7 +96,7 @@ void AddReply(std::string& report, const Exchange& exchange) {
   }
   if (exchange.surplus > 0) {
     report +=
-        "  and " + std::to_string(exchange.surplus) + " bytes behind the end marker, dropped\n";
+        "  and " + std::to_string(exchange.surplus) + " bytes after the end marker, dropped\n";
   }
 }
 

@@ -14,6 +14,7 @@ void AddRow(std::string& report, std::string_view label, std::string_view value)
   report += '\n';
 }
 
+// By columns, which are not bytes as soon as a name is not English.
 std::string Padded(std::string text, size_t width) {
   const size_t columns = DisplayWidth(text);
   if (columns < width) text.append(width - columns, ' ');

@@ -119,6 +119,7 @@ bool Lists(const Snapshot& snapshot, uint32_t code) {
                      [&](const Condition& condition) { return condition.code == code; });
 }
 
+// Conditions are told one by one, since the library's comparison sees the deciding ones only.
 // "Ready" comes and goes with the status line: it is no condition to be told of twice.
 void AddConditions(std::vector<Event>& events, const Snapshot& before, const Snapshot& after) {
   for (const Condition& condition : before.conditions) {
@@ -152,6 +153,7 @@ const char* KindWord(EventKind kind) {
 }
 
 std::vector<Event> ObserveFailure(Watch& watch, const Snapshot& latest, SteadyTime now) {
+  // Each kind of failure is told once, not at every poll.
   const bool news = watch.failures == 0 || watch.failing != latest.exchange.outcome;
   ++watch.failures;
   watch.failing = latest.exchange.outcome;

@@ -25,6 +25,8 @@ struct Event {
   LastAnswer lastAnswer = {};
 };
 
+// What the next poll is compared with. A failed poll says nothing about the printer's state, so the
+// last good answer stays.
 struct Watch {
   std::optional<Snapshot> good;  // the last whole answer
   SteadyTime goodAt;             // when it came

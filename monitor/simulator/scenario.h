@@ -8,9 +8,8 @@
 //   tray-in-use 1       T bypass, M multi-purpose, 1 to 5; likewise in `tray`
 //   bin-in-use 1        1 to 15, or none
 //   tray 1 6 50         a tray: letter, the printer's paper number (6 is A4, -1 no paper, 128 not
-//   in
-//                       place), level in per cent; the first `tray` line of a state replaces all
-//                       trays before it, likewise `bin`, `version`, `font` and `option`
+//                       in place), level in per cent; the first `tray` line of a state replaces
+//                       all trays before it, likewise `bin`, `version`, `font` and `option`
 //   bin 1 0             an output bin: number, state
 //   version SYS 1.01    up to three pairs of label and value, at most 6 characters each
 //   number 64           the printer's number
@@ -21,6 +20,9 @@
 //   manner NAME [N]     how the answer is sent, see the table of manners
 //   repeat 2            this state answers so many queries (else one); the last state stays
 //   next                the following lines describe a later state, which starts as a copy
+//
+// The limits are those of the wire: what goes out is always a reply that a real printer could send,
+// but for the codes and numbers in it and the manner of sending.
 #pragma once
 
 #include <cstdint>
@@ -53,6 +55,7 @@ struct ScenarioOption {
   uint8_t bits;
 };
 
+// A printer at rest, unless lines say otherwise.
 struct PrinterState {
   std::string status = "0";
   bool online = true;

@@ -4,6 +4,7 @@
 #include <thread>
 
 #include "asio.hpp"
+#include "simulator/simulated_reply.h"
 
 namespace stmon {
 namespace {
@@ -11,152 +12,12 @@ namespace {
 using asio::ip::tcp;
 
 constexpr size_t kLongestQuery = 1024;  // bytes; all blocks together take 41
-constexpr std::string_view kEndMarker = "\x1B ";
-
+constexpr size_t kFloodPiece = 16384;   // bytes sent at once
 // What another kind of server might say, with bytes that would clear a terminal.
 constexpr std::string_view kGarbage("HTTP/1.0 400 Bad Request\r\n\x1B[2J\x07\xFF\0 and so on\r\n",
                                     45);
 
-std::string BlockHead(char letter) {
-  return {0x1B, letter};
-}
-
-void AddField(std::string& block, std::string_view field) {
-  block += '\r';
-  block += field;
-}
-
-// ESC S CR 32,68 CR 0 CR 1 CR 1 LF: codes, online flag (0 is online), tray and bin in use.
-void AddStatus(std::string& reply, const PrinterState& state) {
-  reply += BlockHead('S');
-  AddField(reply, state.status);
-  AddField(reply, state.online ? "0" : "1");
-  AddField(reply, state.tray);
-  if (!state.bin.empty()) AddField(reply, state.bin);
-  reply += '\n';
-}
-
-void AddVersions(std::string& reply, const PrinterState& state) {
-  reply += BlockHead('V');
-  for (const ScenarioVersion& version : state.versions) {
-    AddField(reply, version.label);
-    AddField(reply, version.value);
-  }
-  reply += '\n';
-}
-
-void AddTrays(std::string& reply, const PrinterState& state) {
-  reply += BlockHead('T');
-  for (const ScenarioTray& tray : state.trays) {
-    AddField(reply, tray.letter);
-    AddField(reply, tray.paper);
-  }
-  reply += '\n';
-}
-
-void AddLevels(std::string& reply, const PrinterState& state) {
-  reply += BlockHead('Z');
-  for (const ScenarioTray& tray : state.trays) {
-    AddField(reply, tray.letter);
-    AddField(reply, std::to_string(tray.level));
-  }
-  reply += '\n';
-}
-
-void AddBins(std::string& reply, const PrinterState& state) {
-  reply += BlockHead('L');
-  for (const ScenarioBin& bin : state.bins) {
-    AddField(reply, bin.number);
-    AddField(reply, std::to_string(bin.state));
-  }
-  reply += '\n';
-}
-
-bool HasOption(const PrinterState& state, char letter) {
-  return std::any_of(state.options.begin(), state.options.end(),
-                     [&](const ScenarioOption& option) { return option.letter == letter; });
-}
-
-void AddPresence(std::string& reply, char letter, bool present) {
-  reply += BlockHead(letter);
-  AddField(reply, present ? "1" : "0");
-  reply += '\n';
-}
-
-// The block lists every option, those of the blocks A and C included: a reader begins its list anew
-// here.
-void AddOptions(std::string& reply, const PrinterState& state) {
-  reply += BlockHead('D');
-  if (state.duplex && !HasOption(state, 'D')) AddField(reply, "D:1");
-  for (const ScenarioOption& option : state.options)
-    AddField(reply, std::string{option.letter, ':', static_cast<char>(option.bits)});
-  if (reply.back() == 'D') reply += '\r';
-  reply += '\n';
-}
-
-void AddNumber(std::string& reply, const PrinterState& state) {
-  reply += BlockHead('M');
-  AddField(reply, std::to_string(state.number));
-  reply += '\n';
-}
-
-void AddLanguage(std::string& reply, const PrinterState& state) {
-  reply += BlockHead('E');
-  AddField(reply, state.language);
-  reply += '\n';
-}
-
-void AddFonts(std::string& reply, const PrinterState& state) {
-  reply += BlockHead('F');
-  for (const std::string& font : state.fonts)
-    AddField(reply, font);
-  reply += '\n';
-}
-
-// Blocks H and B are asked for by every monitor and answered by no printer of this family.
-void AddBlock(std::string& reply, const PrinterState& state, char letter) {
-  switch (letter) {
-    case 'V':
-      return AddVersions(reply, state);
-    case 'T':
-      return AddTrays(reply, state);
-    case 'Z':
-      return AddLevels(reply, state);
-    case 'L':
-      return AddBins(reply, state);
-    case 'A':
-      return AddPresence(reply, 'A', HasOption(state, 'A'));
-    case 'C':
-      return AddPresence(reply, 'C', state.duplex);
-    case 'D':
-      return AddOptions(reply, state);
-    case 'M':
-      return AddNumber(reply, state);
-    case 'E':
-      return AddLanguage(reply, state);
-    case 'F':
-      return AddFonts(reply, state);
-  }
-}
-
 }  // namespace
-
-std::string RequestedBlocks(std::string_view query) {
-  std::string letters;
-  for (size_t at = 0; at + 2 < query.size(); ++at) {
-    if (query[at] == 0x1B && query[at + 2] == '\n') letters += query[at + 1];
-  }
-  return letters;
-}
-
-std::string BuildReply(const PrinterState& state, std::string_view requested) {
-  std::string reply;
-  AddStatus(reply, state);
-  for (const char letter : requested)
-    AddBlock(reply, state, letter);
-  reply += kEndMarker;
-  return reply;
-}
 
 struct SimulatedPrinter {
   explicit SimulatedPrinter(const Scenario& told) : scenario(told), acceptor(context) {}
@@ -265,9 +126,9 @@ void Answer(const SessionPtr& session) {
       return SendReply(session, true);
     case Manner::Flood:
       // A well-begun reply whose tray block goes on and on; its fields end, the block does not.
-      session->reply = BlockHead('T');
-      while (session->reply.size() < 16384)
-        AddField(session->reply, "1");
+      session->reply = "\x1BT";
+      while (session->reply.size() < kFloodPiece)
+        session->reply += "\r1";
       session->flood = state.amount;
       return SendFlood(session);
   }

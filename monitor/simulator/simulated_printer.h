@@ -4,17 +4,10 @@
 #include <cstdint>
 #include <memory>
 #include <string>
-#include <string_view>
 
 #include "simulator/scenario.h"
 
 namespace stmon {
-
-// The blocks that a query asks for, by letter, in its order.
-std::string RequestedBlocks(std::string_view query);
-
-// The reply of a printer in that state: the status block, the blocks asked for, the end marker.
-std::string BuildReply(const PrinterState& state, std::string_view requested);
 
 struct SimulatedPrinter;  // owns its sockets and its thread
 

@@ -27,8 +27,8 @@ struct Probe {
   std::vector<StatusNode> nodes;
 };
 
-// The comparison looks at the deciding statuses only, so a code decides when leaving it out makes a
-// difference.
+// The library's comparison of records looks at the deciding statuses only, so a code decides when
+// leaving it out makes a difference.
 bool Decides(const std::vector<uint32_t>& codes, uint32_t code) {
   std::vector<uint32_t> others = codes;
   std::erase(others, code);

@@ -1,4 +1,6 @@
-// Which of several status codes decides, and which would without it, as the library sees it.
+// Which of several status codes decides, and which would without it, as the library sees it. Its
+// priorities are no part of its interface; they are found out by asking, so that the monitors have
+// none of their own that could differ.
 #pragma once
 
 #include <cstdint>

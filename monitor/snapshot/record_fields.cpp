@@ -44,6 +44,7 @@ void TakeCommon(const Info& info, RecordFields& fields) {
   fields.hasError = info.hasError == 1;
 }
 
+// The flat record has no list of options but fields and bits, which stand for their codes.
 struct OptionBit {
   uint32_t PrnInfo::*field;
   uint32_t mask;   // bits that are looked at
@@ -105,6 +106,7 @@ RecordFields FieldsOf(const PrnInfo& info) {
   ForEachEntry(info.trayList, info.trayCount, [&](const TrayPaper& tray) {
     fields.trays.push_back({tray.trayId, tray.paperCode, "", {}});
   });
+  // Both arrays are filled from the same trays in the same order.
   size_t next = 0;
   ForEachEntry(info.trayLevelList, info.trayLevelCount, [&](const TrayLevel& level) {
     if (next < fields.trays.size()) fields.trays[next++].level = level.paperLevel;

@@ -1,5 +1,4 @@
-// The fields of the library's two records in one form, so that everything behind it is written
-// once.
+// The fields of the library's two records in one form, so that everything after it is written once.
 #pragma once
 
 #include <cstdint>
@@ -41,7 +40,7 @@ struct RecordFields {
   uint32_t number = 0;
   uint32_t language = 0;
   uint32_t currentTray = 0;
-  uint32_t currentBin = 0;
+  uint32_t currentBin = 0;  // may be BinUnknown
   bool online = false;
   bool hasError = false;
 };

@@ -11,12 +11,12 @@
 #include <vector>
 
 #include "snapshot/condition.h"
-#include "snapshot/record.h"
+#include "snapshot/owned_record.h"
 #include "snapshot/record_fields.h"
 #include "snapshot/verdict.h"
 #include "wire/transport.h"
-#include "words/languages.h"
 #include "words/texts.h"
+#include "words/user_language.h"
 
 namespace stmon {
 

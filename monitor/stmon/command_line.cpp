@@ -4,8 +4,8 @@
 
 #include "CLI/CLI.hpp"
 #include "system/streams.h"
-#include "words/languages.h"
 #include "words/safe_text.h"
+#include "words/user_language.h"
 
 namespace stmon {
 namespace {

@@ -5,6 +5,7 @@
 
 namespace stmon {
 
+// Empty texts and zeros stand for options that were not given.
 struct Options {
   std::string printer;          // HOST[:PORT]; empty: the built-in simulated printer
   std::string replyFile;        // a saved reply instead of a printer

@@ -10,7 +10,7 @@
 #include "system/files.h"
 #include "system/streams.h"
 #include "system/terminal.h"
-#include "wire/query.h"
+#include "wire/full_query.h"
 #include "words/safe_text.h"
 
 namespace stmon {

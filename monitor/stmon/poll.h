@@ -5,7 +5,7 @@
 
 #include "stmon/command_line.h"
 #include "wire/transport.h"
-#include "words/languages.h"
+#include "words/user_language.h"
 
 namespace stmon {
 

@@ -10,7 +10,7 @@
 #include "stmonw/window.h"
 #include "system/streams.h"
 #include "wire/transport.h"
-#include "words/languages.h"
+#include "words/user_language.h"
 
 namespace {
 

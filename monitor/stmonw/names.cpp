@@ -3,6 +3,7 @@
 #include <algorithm>
 
 #include "words/labels.h"
+#include "words/safe_text.h"
 #include "words/texts.h"
 
 namespace stmonw {

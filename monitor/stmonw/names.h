@@ -5,7 +5,7 @@
 #include <string>
 #include <string_view>
 
-#include "words/languages.h"
+#include "words/user_language.h"
 
 namespace stmonw {
 

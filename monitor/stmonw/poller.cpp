@@ -38,11 +38,12 @@ void Run(const std::shared_ptr<Poller>& poller) {
   std::unique_lock lock(poller->mutex);
   while (!poller->stopped) {
     poller->asked = false;
+    // The window must be able to stop or speed up the polls while one is under way.
     lock.unlock();
     stmon::Exchange exchange = stmon::AskPrinter(poller->target, poller->query, kTimeout);
     const auto end = std::chrono::steady_clock::now();
     lock.lock();
-    if (poller->stopped) break;
+    if (poller->stopped) break;  // nobody wants this answer any more
     failures = exchange.outcome == stmon::Outcome::Answered ? 0 : failures + 1;
     poller->answer = std::move(exchange);
     PostMessageW(poller->window, poller->message, 0, 0);

@@ -14,6 +14,7 @@ constexpr uint32_t kPaperLevelIcon = 1;  // kind of PatGetIconName
 constexpr uint32_t kFullTray = 100;      // per cent
 constexpr const wchar_t* kInUse = L" (in use)";
 
+// An edit control breaks lines at both characters only.
 std::wstring WithCrLf(const std::wstring& text) {
   std::wstring lines;
   for (const wchar_t unit : text) {
@@ -23,7 +24,8 @@ std::wstring WithCrLf(const std::wstring& text) {
   return lines;
 }
 
-// Offline hides what would decide otherwise.
+// All but what the headline tells; for an offline printer that is "offline", which hides even the
+// condition that would decide otherwise.
 std::vector<std::wstring> OtherConditions(const stmon::Snapshot& snapshot) {
   const bool offline = !snapshot.online && !snapshot.hasError;
   std::vector<std::wstring> others;
@@ -44,6 +46,7 @@ TrayLine LineOf(const stmon::Tray& tray, bool in_use, const stmon::Language& lan
   char name[32] = "";
   if (PatGetPaperBitmap_Ex(nullptr, tray.paper, name) == 1) line.paperBitmap = name;
   const bool holds_paper = tray.paper != PaperNone && tray.paper != PaperTrayMissing;
+  // A tray that is out has no level, and an empty one none but 0, whatever the printer sends.
   if (tray.level && tray.paper != PaperTrayMissing) {
     const uint32_t level = holds_paper ? *tray.level : 0;
     line.level = Wide(std::to_string(level) + (level <= kFullTray ? " %" : ""));

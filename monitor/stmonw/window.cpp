@@ -7,12 +7,12 @@
 #include <cwchar>
 
 #include "simulator/simulated_printer.h"
-#include "stmonw/drawing.h"
+#include "stmonw/item_drawing.h"
 #include "stmonw/poller.h"
 #include "stmonw/printer_picture.h"
 #include "stmonw/resource.h"
 #include "stmonw/view.h"
-#include "wire/query.h"
+#include "wire/full_query.h"
 #include "words/safe_text.h"
 
 namespace stmonw {

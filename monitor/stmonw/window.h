@@ -6,7 +6,7 @@
 #include <chrono>
 #include <string>
 
-#include "words/languages.h"
+#include "words/user_language.h"
 
 namespace stmonw {
 

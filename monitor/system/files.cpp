@@ -16,10 +16,13 @@
 namespace stmon {
 namespace {
 
+// Windows would take a name of plain bytes in its ANSI code page, which lacks most letters.
 std::filesystem::path Path(const std::string& name) {
   return std::filesystem::path(std::u8string(name.begin(), name.end()));
 }
 
+// The usual errors in words of our own: the system's differ from one to the next, and may come in
+// another language.
 std::string SystemText(int error) {
   switch (error) {
     case ENOENT:
@@ -31,7 +34,7 @@ std::string SystemText(int error) {
       return "a folder, not a file";
     case ENOSPC:
       return "no space left";
-    case 0:
+    case 0:  // streams may fail without a word from the system
       return "read error";
     default:
       return std::strerror(error);
@@ -57,6 +60,7 @@ std::string ReadWholeFile(const std::string& name, size_t most, std::string& byt
     bytes.resize(std::fread(bytes.data(), 1, bytes.size(), stdin));
     return std::ferror(stdin) ? SystemText(errno) : "";
   }
+  // Linux opens a folder like a file, and fails only when it is read.
   std::error_code ignored;
   if (std::filesystem::is_directory(Path(name), ignored)) return SystemText(EISDIR);
   errno = 0;
@@ -75,6 +79,7 @@ std::string WriteWholeFile(const std::string& name, std::string_view bytes) {
   const auto kind = std::filesystem::status(target, error).type();
   const bool replace =
       kind == std::filesystem::file_type::regular || kind == std::filesystem::file_type::not_found;
+  // With our own process's number, so that two programs that write the same file do not meet.
   auto beside = target;
   if (replace) beside += "." + std::to_string(OwnId()) + ".tmp";
   errno = 0;

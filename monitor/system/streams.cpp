@@ -34,6 +34,7 @@ std::string Utf8(const wchar_t* wide) {
 
 std::vector<std::string> Arguments(int count, char** values) {
 #ifdef _WIN32
+  // What main() gets is in the ANSI code page, which lacks most letters.
   int wide_count = 0;
   if (LPWSTR* wide = CommandLineToArgvW(GetCommandLineW(), &wide_count)) {
     std::vector<std::string> arguments;
@@ -48,6 +49,7 @@ std::vector<std::string> Arguments(int count, char** values) {
 
 void PrepareStreams() {
 #ifdef _WIN32
+  // As text they would gain a carriage return before each line feed, also inside a PNG.
   for (FILE* stream : {stdin, stdout, stderr})
     _setmode(_fileno(stream), _O_BINARY);
   old_code_page = GetConsoleOutputCP();

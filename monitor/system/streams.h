@@ -14,7 +14,8 @@ std::vector<std::string> Arguments(int count, char** values);
 // code page is put back when the program ends.
 void PrepareStreams();
 
-// Writes to standard output or standard error and flushes.
+// Writes to standard output or standard error and flushes: whoever reads a pipe wants each line as
+// it comes.
 void Print(std::string_view text);
 void Complain(std::string_view text);
 

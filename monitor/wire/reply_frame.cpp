@@ -3,8 +3,6 @@
 namespace stmon {
 namespace {
 
-constexpr char kEsc = 0x1B;
-
 using State = ReplyScanner::State;
 
 // What one byte does. `ended` is set by the last byte of the end marker. Bytes that begin no block

@@ -14,6 +14,8 @@
 
 namespace stmon {
 
+constexpr char kEsc = 0x1B;
+
 // The state between two bytes, so that a reply that trickles in is looked at once.
 struct ReplyScanner {
   enum class State { AtBlock, AfterEsc, InStatus, InStatusAfterEsc, InBlock, Lost, LostAfterEsc };

@@ -22,8 +22,8 @@ struct Resolved {
   asio::error_code error;
 };
 
-// The system's name look-up cannot be called off. It runs on a thread of its own that is left
-// behind when the time is over, and touches nothing but what it was given.
+// The system's name look-up cannot be called off, and may take half a minute. It runs on a thread
+// of its own, which is given up when the time is over and touches nothing but what it was given.
 Outcome Resolve(const Target& target, Clock::time_point deadline, Endpoints& endpoints,
                 std::string& detail) {
   asio::error_code error;
@@ -64,6 +64,7 @@ bool Finish(asio::io_context& context, tcp::socket& socket, Clock::time_point de
   return false;
 }
 
+// Closing the connection while bytes are on their way shows as any of these.
 bool IsReset(const asio::error_code& error) {
   return error == asio::error::connection_reset || error == asio::error::connection_aborted ||
          error == asio::error::broken_pipe;
@@ -76,49 +77,35 @@ Outcome ConnectFailure(const asio::error_code& error, std::string& detail) {
   return Outcome::Unreachable;
 }
 
+// What does not begin like a reply, or does not end, is not read on: a host that is no printer
+// might send for ever.
+bool MayBeReply(const std::string& bytes) {
+  return (bytes.empty() || bytes[0] == kEsc) && bytes.size() < kLongestReply;
+}
+
 // Reads until the reply is whole, the printer stops, or it is no use to read on.
 void ReadReply(asio::io_context& context, tcp::socket& socket, Clock::time_point deadline,
                Exchange& exchange) {
   ReplyScanner scanner;
   std::array<char, 4096> chunk;
-  while (true) {
-    asio::error_code error;
+  std::string reply;
+  asio::error_code error;
+  bool in_time = true;
+  do {
     size_t count = 0;
     socket.async_read_some(asio::buffer(chunk),
                            [&](const asio::error_code& result, size_t transferred) {
                              error = result;
                              count = transferred;
                            });
-    const bool in_time = Finish(context, socket, deadline);
-    exchange.reply.append(chunk.data(), count);
-    if (ScanReply(scanner, exchange.reply)) {
-      exchange.surplus = exchange.reply.size() - scanner.length;
-      exchange.reply.resize(scanner.length);
-      exchange.outcome = Outcome::Answered;
-      if (exchange.reply[0] != 0x1B) exchange.outcome = Outcome::NotAReply;
-      return;
-    }
-    if (!exchange.reply.empty() && exchange.reply[0] != 0x1B) {
-      exchange.outcome = Outcome::NotAReply;
-      return;
-    }
-    if (exchange.reply.size() >= kLongestReply) {
-      exchange.reply.resize(kLongestReply);
-      exchange.outcome = Outcome::TooLong;
-      return;
-    }
-    if (!in_time) {
-      exchange.outcome = exchange.reply.empty() ? Outcome::Silent : Outcome::CutOff;
-      return;
-    }
-    if (error) {
-      const bool reset = IsReset(error);
-      exchange.outcome = !exchange.reply.empty() ? Outcome::CutOff
-                         : reset                 ? Outcome::Reset
-                                                 : Outcome::ClosedEarly;
-      return;
-    }
-  }
+    in_time = Finish(context, socket, deadline);
+    reply.append(chunk.data(), count);
+  } while (!ScanReply(scanner, reply) && MayBeReply(reply) && in_time && !error);
+  exchange = JudgeReply(std::move(reply));
+  if (!exchange.reply.empty()) return;
+  exchange.outcome = !in_time         ? Outcome::Silent
+                     : IsReset(error) ? Outcome::Reset
+                                      : Outcome::ClosedEarly;
 }
 
 bool ParsePort(std::string_view text, uint16_t& port) {
@@ -148,11 +135,13 @@ bool ParseTarget(std::string_view text, Target& target) {
     with_port = true;
   }
   if (with_port && !ParsePort(port, target.port)) return false;
+  // No host name has blanks or slashes; with them, it is a typing error or a URL.
   for (const char byte : host) {
     if (static_cast<unsigned char>(byte) <= 0x20 || byte == 0x7F || byte == '/') return false;
   }
   target.host = host;
-  return !host.empty() && host.size() <= 255;
+  constexpr size_t kLongestHost = 255;  // of the domain name system
+  return !host.empty() && host.size() <= kLongestHost;
 }
 
 std::string TargetText(const Target& target) {
@@ -185,6 +174,7 @@ Exchange AskPrinter(const Target& target, std::string_view query,
   }
   asio::async_write(socket, asio::buffer(query),
                     [&](const asio::error_code& result, size_t) { error = result; });
+  // A printer that serves somebody else may reset the connection before it has read the query.
   const bool sent = Finish(context, socket, deadline);
   if (!sent || (error && !IsReset(error))) {
     exchange.outcome = Outcome::SendFailed;
@@ -211,9 +201,9 @@ Exchange JudgeReply(std::string bytes) {
   }
   if (exchange.reply.empty()) {
     exchange.outcome = Outcome::ClosedEarly;
-  } else if (exchange.reply[0] != 0x1B) {
+  } else if (exchange.reply[0] != kEsc) {
     exchange.outcome = Outcome::NotAReply;
-  } else if (exchange.reply.size() > kLongestReply) {
+  } else if (!ended && exchange.reply.size() >= kLongestReply) {
     exchange.reply.resize(kLongestReply);
     exchange.outcome = Outcome::TooLong;
   } else {

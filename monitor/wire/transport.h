@@ -1,4 +1,6 @@
 // One question to a printer over TCP: connect, send the query, read the reply up to its end, close.
+// The connection is not kept: a printer has room for few, and one that is held keeps others from
+// printing.
 #pragma once
 
 #include <chrono>
@@ -8,7 +10,7 @@
 
 namespace stmon {
 
-constexpr uint16_t kPrinterPort = 9100;
+constexpr uint16_t kPrinterPort = 9100;  // on which printers take raw data
 constexpr size_t kLongestReply = 65536;  // bytes; a full reply has a few hundred
 
 struct Target {
@@ -42,11 +44,11 @@ enum class Outcome {
 struct Exchange {
   Outcome outcome = Outcome::Silent;
   std::string reply;   // what came, up to the end marker
-  size_t surplus = 0;  // bytes that came behind the end marker and were dropped
+  size_t surplus = 0;  // bytes that came after the end marker and were dropped
   std::string detail;  // the system's reason, for people; may be empty
 };
 
-// The whole exchange ends within `timeout`.
+// The whole exchange, name look-up included, ends within `timeout`.
 Exchange AskPrinter(const Target& target, std::string_view query,
                     std::chrono::milliseconds timeout);
 

@@ -21,7 +21,6 @@ constexpr Label kTrays[] = {
     {0, "Tray with id "},       // closing row: any other, its id follows
 };
 
-// Codes without a name of their own are numbers to everyone but the printer.
 constexpr Label kOptions[] = {
     {1, "Duplex unit"},       //
     {2, "Hard disk unit"},    //
@@ -77,8 +76,8 @@ std::string BinLabel(uint32_t id) {
   return id == BinUnknown ? "Unknown bin" : "Bin " + std::to_string(id);
 }
 
-// The library names sizes in ASCII and the rest in Japanese; the kind of its picture tells how the
-// paper lies.
+// The library names sizes in ASCII and the rest in Japanese or with asterisks; the name of its
+// picture tells how the paper lies.
 std::string PaperLabel(uint32_t code) {
   if (code == 0) return {};
   for (const Label* row = kPapers; row->code != 0; ++row) {
@@ -88,10 +87,9 @@ std::string PaperLabel(uint32_t code) {
   char picture[17] = "";
   PatGetPaperName_Ex(nullptr, code, name);
   PatGetPaperBitmap_Ex(nullptr, code, picture);
-  std::string label = name;
-  if (label.empty() || label[0] == '*') label = "paper with code " + std::to_string(code);
-  if (label.size() <= 3 && std::string_view(picture).ends_with("_R")) label += " rotated";
-  return label;
+  if (name[0] == '\0' || name[0] == '*') return "paper with code " + std::to_string(code);
+  const bool rotated = std::string_view(picture).ends_with("_R");
+  return name + std::string(rotated ? " rotated" : "");
 }
 
 }  // namespace stmon

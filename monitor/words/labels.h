@@ -1,4 +1,6 @@
-// Names of trays, papers, options and printer languages for people, in UTF-8.
+// Names of trays, papers, options and printer languages for people, in English: the library has
+// most of them in Japanese only. A code without a name is told as a number, never left out, since
+// newer printers bring codes that nobody here has heard of.
 #pragma once
 
 #include <cstdint>

@@ -1,5 +1,7 @@
 // The words that other printer software uses for a status code: the keyword of the IPP attribute
-// printer-state-reasons, the alert of the Printer MIB, and the bits of the Host Resources MIB.
+// printer-state-reasons (RFC 8011), the alert of the Printer MIB (RFC 3805), and the bits of the
+// Host Resources MIB (RFC 2790). What speaks to monitors that know such printers can then speak of
+// ours.
 #pragma once
 
 #include <cstdint>

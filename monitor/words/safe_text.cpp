@@ -1,7 +1,8 @@
 #include "words/safe_text.h"
 
-#include <cstdint>
+#include <vector>
 
+#include "stmdata/stmdata.h"
 #include "utf8.h"
 
 namespace stmon {
@@ -10,7 +11,8 @@ namespace {
 constexpr char kHexDigits[] = "0123456789ABCDEF";
 constexpr uint32_t kReplacement = 0xFFFD;
 
-// C0 and C1 controls, and the characters that turn the direction of writing or hide text.
+// C0 and C1 controls, with which a printer could write anywhere on a terminal, and the characters
+// that turn the direction of writing or hide text, with which it could make a line read otherwise.
 bool IsControl(uint32_t point) {
   if (point == '\n') return false;
   return point < 0x20 || (point >= 0x7F && point < 0xA0) || (point >= 0x200B && point <= 0x200F) ||
@@ -47,6 +49,19 @@ std::string CleanUtf8(std::string_view text) {
   return clean;
 }
 
+std::string ToUtf8(std::string_view text, uint32_t code_page) {
+  if (text.empty()) return {};
+  const auto size = static_cast<int>(text.size());
+  const int units = MultiByteToWideChar(code_page, 0, text.data(), size, nullptr, 0);
+  if (units <= 0) return EscapeBytes(text);
+  std::vector<WCHAR> wide(static_cast<size_t>(units));
+  MultiByteToWideChar(code_page, 0, text.data(), size, wide.data(), units);
+  std::u16string points(wide.begin(), wide.end());
+  std::string result;
+  utf8::unchecked::utf16to8(points.begin(), points.end(), std::back_inserter(result));
+  return CleanUtf8(result);
+}
+
 std::string HexBytes(std::string_view bytes) {
   std::string text;
   for (const char byte : bytes) {
@@ -63,7 +78,7 @@ size_t DisplayWidth(std::string_view utf8_text) {
   const std::string valid = utf8::replace_invalid(utf8_text, kReplacement);
   for (auto at = valid.begin(); at != valid.end();) {
     const uint32_t point = utf8::unchecked::next(at);
-    if (point >= 0x300 && point < 0x370) continue;  // combining marks
+    if (point >= 0x300 && point < 0x370) continue;  // combining marks stand on what came before
     if (point == 0xFF9E || point == 0xFF9F) {       // half-width voicing marks
       ++width;
       continue;

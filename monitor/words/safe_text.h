@@ -1,6 +1,8 @@
-// Text that came from outside, made fit for a terminal, a JSON document or a metrics file.
+// Text that came from outside, made fit for a terminal, a JSON document or a metrics file: a
+// printer, or whoever poses as one, chooses these bytes.
 #pragma once
 
+#include <cstdint>
 #include <string>
 #include <string_view>
 
@@ -12,6 +14,9 @@ std::string EscapeBytes(std::string_view bytes);
 
 // UTF-8 with control characters (line feed excepted) and broken sequences replaced by U+FFFD.
 std::string CleanUtf8(std::string_view text);
+
+// `text` of code page 932, 1250, 1252 or CP_ACP, cleaned likewise.
+std::string ToUtf8(std::string_view text, uint32_t code_page);
 
 // "1B 54 0A"
 std::string HexBytes(std::string_view bytes);

@@ -4,6 +4,8 @@
 #include <cstring>
 #include <iterator>
 
+#include "words/safe_text.h"
+
 namespace stmon {
 namespace {
 
@@ -17,7 +19,9 @@ std::string_view Trimmed(std::string_view line) {
   return line;
 }
 
-// Lines without blanks around them, without empty lines, without a line feed at the end.
+// Lines without blanks around them, without empty lines, without a line feed at the end. The
+// library's texts are laid out for a dialog of fixed width: blanks and line feeds at the end of a
+// text are there to join it with the next one.
 std::string Tidy(std::string_view text) {
   std::string tidy;
   while (!text.empty()) {
@@ -32,7 +36,7 @@ std::string Tidy(std::string_view text) {
 }
 
 // The flat record's detail text of a toner status ends with colour names of code page 932, whatever
-// its language; they stand behind the last line feed.
+// its language; they follow the last line feed.
 std::string FlatDetail(std::string_view text, uint32_t dominant) {
   const bool colours = dominant >= 65 && dominant <= 76;
   const size_t last = colours ? text.rfind('\n') : std::string_view::npos;
@@ -60,9 +64,8 @@ ThreadLanguage SetThreadLanguage(ThreadLanguage language) {
 }  // namespace
 
 Texts AskTexts(const PrnInfoEx& record, const Language& language) {
-  char name[4] = "";
-  std::strncpy(name, language.code, sizeof name - 1);
-  PatSetLocale(name);
+  std::string code = language.code;  // the library writes to what it is given
+  PatSetLocale(code.data());
   char buffer[kSize] = "";
   Texts texts;
   if (PatGetSimpleString_Ex(&record, buffer, kSize) == 1)
@@ -103,7 +106,7 @@ std::string AskIcon(const PrnInfo& info) {
 StatusSample::StatusSample(uint32_t code, bool duplex, uint32_t trays) {
   list.recordTag = PrnInfoExTag;
   list.structSize = PrnInfoExSize;
-  list.online = 1;
+  list.online = 1;  // an offline printer's texts tell of that instead
   list.printing = code == StatusPrinting;
   list.noResponse = code == StatusNoResponse;
   status.nodeSize = sizeof status;

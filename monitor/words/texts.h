@@ -1,10 +1,11 @@
-// What the library says about a record, in one language, as UTF-8.
+// What the library says about a record, in one language, as UTF-8. PatSetLocale and the thread's
+// language are set for each question, so that callers need not know which of them a text follows.
 #pragma once
 
 #include <string>
 
 #include "stmdata/stmdata.h"
-#include "words/languages.h"
+#include "words/user_language.h"
 
 namespace stmon {
 
@@ -13,8 +14,8 @@ struct Texts {
   std::string detail;  // what to do, in lines without blanks around them
 };
 
-// `dominant` is the deciding status: the flat record's texts of toner statuses are in two code
-// pages.
+// `dominant` is the deciding status code: the flat record's texts of toner statuses come in two
+// code pages at once.
 Texts AskTexts(const PrnInfoEx& record, const Language& language);
 Texts AskTexts(const PrnInfo& info, const Language& language, uint32_t dominant);
 

@@ -2,6 +2,7 @@
 #include "doctest/doctest.h"
 #include "simulator/scenario.h"
 #include "simulator/simulated_printer.h"
+#include "simulator/simulated_reply.h"
 #include "wire/reply_frame.h"
 #include "wire/transport.h"
 #include "words/safe_text.h"
@@ -26,7 +27,7 @@ TEST_CASE("a reply ends at its end marker and nowhere else") {
        10},
       {"the same bytes where the frame is lost", "?\x1B ", 3},
       {"an ESC before the marker's ESC", "\x1BS\r\x1B\x1B x", 6},
-      {"a second reply behind the first", "\x1BS\r0\n\x1B \x1BS\r4\n\x1B ", 7},
+      {"a second reply after the first", "\x1BS\r0\n\x1B \x1BS\r4\n\x1B ", 7},
   };
   for (const Row& row : rows) {
     CAPTURE(row.why);

@@ -5,7 +5,7 @@
 #include "report/reports.h"
 #include "simulator/simulated_printer.h"
 #include "snapshot/snapshot.h"
-#include "wire/query.h"
+#include "wire/full_query.h"
 
 using stmon::Outcome;
 using stmon::Verdict;

@@ -1,10 +1,6 @@
-#include "words/languages.h"
-
-#include <vector>
+#include "words/user_language.h"
 
 #include "stmdata/stmdata.h"
-#include "utf8.h"
-#include "words/safe_text.h"
 
 namespace stmon {
 namespace {
@@ -69,19 +65,6 @@ bool FlatTextsAreWhole(const Language& language) {
   constexpr uint32_t kUtf8 = 65001;
   const uint32_t page = SystemCodePage(language);
   return page == language.codePage || page == kUtf8 || language.id == kLanguages[0].id;
-}
-
-std::string ToUtf8(std::string_view text, uint32_t code_page) {
-  if (text.empty()) return {};
-  const auto size = static_cast<int>(text.size());
-  const int units = MultiByteToWideChar(code_page, 0, text.data(), size, nullptr, 0);
-  if (units <= 0) return EscapeBytes(text);
-  std::vector<WCHAR> wide(static_cast<size_t>(units));
-  MultiByteToWideChar(code_page, 0, text.data(), size, wide.data(), units);
-  std::u16string points(wide.begin(), wide.end());
-  std::string result;
-  utf8::unchecked::utf16to8(points.begin(), points.end(), std::back_inserter(result));
-  return CleanUtf8(result);
 }
 
 }  // namespace stmon

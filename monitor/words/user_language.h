@@ -1,4 +1,4 @@
-// The languages that the library speaks, and its texts as UTF-8.
+// The languages that the library speaks, and the one to choose for a user.
 #pragma once
 
 #include <cstdint>
@@ -23,10 +23,7 @@ std::string LanguageCodes();
 const Language& UserLanguage();
 
 // The flat record's texts come in the system's code page, which may lack letters of the language.
-// (On Linux it is the one of the language.)
+// On Linux none is lost: the library takes the code page of the thread's language there.
 bool FlatTextsAreWhole(const Language& language);
-
-// `text` of code page 932, 1250, 1252 or CP_ACP; without control characters but line feeds.
-std::string ToUtf8(std::string_view text, uint32_t code_page);
 
 }  // namespace stmon

@@ -1,4 +1,4 @@
-#include "stmonw/drawing.h"
+#include "stmonw/item_drawing.h"
 
 #include <algorithm>
 
