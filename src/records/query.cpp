@@ -1,5 +1,6 @@
 // The readback query: which blocks the printer is asked for.
 #include <cstring>
+#include <string_view>
 
 #include "platform/system_error.h"
 #include "stmdata/stmdata.h"
@@ -8,40 +9,37 @@ namespace {
 
 struct QueryRow {
   uint32_t groups;  // any of these bits
-  const char* requests;
+  std::string_view requests;
 };
 
-constexpr char kPrefix[] = "\x12\x14\x12";
+// A request is ESC, a block's letter and LF. ESC is written in octal: in hexadecimal the letters A
+// to F would be read as digits of it.
+constexpr std::string_view kPrefix = "\022\024\022";
 constexpr QueryRow kRequests[] = {
-    {GroupModelInfo, "\x1BV\n"},     // versions
-    {GroupTrays, "\x1BT\n\x1BZ\n"},  // sizes, levels
-    {GroupBins, "\x1BH\n\x1BL\n"},   // output bins
-    {GroupDuplex | GroupOptions,
-     "\x1B"
-     "A\n\x1B"
-     "B\n\x1B"
-     "C\n\x1B"
-     "D\n\x1BM\n"},  // options
-    {GroupEmulation,
-     "\x1B"
-     "E\n"},  // language in use
-    {GroupFonts,
-     "\x1B"
-     "F\n"},  // fonts
+    {GroupModelInfo, "\033V\n"},                                          // versions
+    {GroupTrays, "\033T\n\033Z\n"},                                       // sizes, levels
+    {GroupBins, "\033H\n\033L\n"},                                        // output bins
+    {GroupDuplex | GroupOptions, "\033A\n\033B\n\033C\n\033D\n\033M\n"},  // options
+    {GroupEmulation, "\033E\n"},                                          // language in use
+    {GroupFonts, "\033F\n"},                                              // fonts
 };
-constexpr char kSuffix[] = "\x1B ";
+constexpr std::string_view kSuffix = "\033 ";
 
-constexpr size_t kLongestQuery = 41;
+constexpr size_t kLongestQuery = [] {
+  size_t length = kPrefix.size() + kSuffix.size();
+  for (const QueryRow& row : kRequests)
+    length += row.requests.size();
+  return length;
+}();
 
 struct Query {
   char text[kLongestQuery];
   uint32_t length;
 };
 
-void Append(Query& query, const char* bytes) {
-  const size_t length = std::strlen(bytes);
-  std::memcpy(query.text + query.length, bytes, length);
-  query.length += static_cast<uint32_t>(length);
+void Append(Query& query, std::string_view bytes) {
+  std::memcpy(query.text + query.length, bytes.data(), bytes.size());
+  query.length += static_cast<uint32_t>(bytes.size());
 }
 
 Query BuildQuery(uint32_t groups) {

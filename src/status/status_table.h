@@ -5,8 +5,9 @@
 
 namespace stm {
 
-// Short and detail are string ids. Service calls 49 to 64 have no row; who wants one folds them
-// into 48 first. The rows of a toner group share their texts: the colour is named in a suffix.
+// Short and detail are string ids. Service calls come as 48 to 64, and only 48 has a row:
+// FoldServiceCall makes one of all. The four toners of a group share its texts; which of them is
+// meant is told in a suffix.
 inline constexpr StatusRow kStatusTable[] = {
     //  code  short  level  detail
     {0, 400, 1, 600},     // ready
