@@ -90,14 +90,6 @@ TEST_CASE("a Device ID ends at its length and at its zero byte, whatever the oth
   }
 }
 
-TEST_CASE("a Device ID may be the record's own string") {
-  test::Record record;
-  ReadDeviceId(record, "MFG:MFG:ORLEX;");
-  REQUIRE(std::string(record.manufacturer) == "MFG:ORLEX");
-  CHECK(SetModelInfoExFromDeviceID(&record, record.manufacturer, 9) == 1);
-  CHECK(std::string(record.manufacturer) == "ORLEX");
-}
-
 TEST_CASE("a missing Device ID counts as an empty one; a missing record is refused") {
   test::Record record;
   CHECK(SetModelInfoExFromDeviceID(&record, nullptr, 5) == 1);

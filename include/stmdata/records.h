@@ -72,8 +72,8 @@ enum {
    PrnInfoEx that the comparison skips. */
 #define STM_ABSENT 0xFFFFFFFFu
 
-/* Marks an absent pointer in the print manager's records, as null does: all ones of its width. To
-   be converted to the pointer's type. */
+/* Marks an absent pointer in the print manager's records and an absent text of PrnInfoEx, as null
+   does: all ones of its width. To be converted to the pointer's type. */
 #define STM_ABSENT_POINTER UINTPTR_MAX
 
 /* ---- Item nodes ------------------------------------------------------------------------------
@@ -158,7 +158,9 @@ STM_SIZE(EmulationNode, STM_EITHER(28, 32));
 
 /* ---- The list-based record -------------------------------------------------------------------
    Zero-filled before the first use. Every string and node is a GlobalAlloc block of its own that
-   belongs to the record's owner; the library releases a block only when it replaces it. */
+   belongs to the record's owner; the library releases a block only when it replaces it. A string is
+   absent when its pointer is null or all-ones. Lists are read for 65,536 nodes at most; one that
+   leads back into itself is never released. */
 typedef struct PrnInfoEx {      /* 112 or 176 bytes */
   uint32_t recordTag;           /*   0   0  PrnInfoExTag; the readback parser leaves it alone */
   uint32_t structSize;          /*   4   4  PrnInfoExSize */

@@ -13,16 +13,20 @@
     (head) = next;                   \
   }
 
+#define STM_RELEASE_TEXT(text) \
+  if ((uintptr_t)(text) != STM_ABSENT_POINTER) GlobalFree(text);
+
 /* Releases the texts and nodes of a list-based record and fills it with zeros, so that it may be
-   used anew. Everything in it must come from this library or from GlobalAlloc. record  not null;
-   its own block stays the caller's */
+   used anew. Everything in it must come from this library or from GlobalAlloc; its lists end, and
+   its texts may be null or all-ones.
+   record  not null; its own block stays the caller's */
 static inline void ReleasePrnInfoEx(PrnInfoEx* record) {
-  GlobalFree(record->modelName);
-  GlobalFree(record->manufacturer);
-  GlobalFree(record->description);
-  GlobalFree(record->versionText1);
-  GlobalFree(record->versionText2);
-  GlobalFree(record->versionText3);
+  STM_RELEASE_TEXT(record->modelName)
+  STM_RELEASE_TEXT(record->manufacturer)
+  STM_RELEASE_TEXT(record->description)
+  STM_RELEASE_TEXT(record->versionText1)
+  STM_RELEASE_TEXT(record->versionText2)
+  STM_RELEASE_TEXT(record->versionText3)
   STM_RELEASE_LIST(StatusNode, record->statusList)
   STM_RELEASE_LIST(EmulationNode, record->emulationList)
   STM_RELEASE_LIST(FontNode, record->fontList)

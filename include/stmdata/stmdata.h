@@ -109,7 +109,8 @@ STM_API uint32_t STM_CALL SetPrnInfoFromReadbackCmd(PrnInfo* record, const char*
              lacks stay. A string that cannot be allocated becomes null
    deviceId  fields ended by ";", without the two length bytes of the wire. Keys count in upper case
              at the beginning of a field; a field is cut at 255 bytes. A last MDL, DES or CMD field
-             without ";" loses its last character. Null counts as an empty string
+             without ";" loses its last character. Null counts as an empty string, and none of the
+             record's own strings may be handed in
    length    bytes; the string also ends at its first zero byte
    Result    1 read, 0 null record */
 STM_API uint32_t STM_CALL SetModelInfoExFromDeviceID(ModelInfoEx* record, const char* deviceId,
@@ -301,7 +302,7 @@ STM_API uint32_t STM_CALL PatGetStatusFromNet(uint32_t status);
    info    the caller's, zero-filled before its first use. Lists of selected groups are resized,
            which keeps nodes and what is not written in them; the status list is rebuilt
    pm      only read; null and all-ones pointers are absent groups, items, names and texts. `count`
-           of a group is the length of its `items`
+           of a group is the length of its `items`. None of its texts may be one of `info`
    groups  set of Group... bits; GroupDeviceId means GroupModelInfo here, GroupDuplex nothing
    Result  1 converted, also where a group was absent and nothing was written for it. 0: nothing
            written, GetLastError 6: `info` or `pm` is null

@@ -3,6 +3,7 @@
 #include <cstring>
 
 #include "platform/system_error.h"
+#include "records/item_list.h"
 #include "records/presence.h"
 #include "status/dominant_status.h"
 #include "stmdata/stmdata.h"
@@ -29,12 +30,12 @@ bool AgreeText(const char* first, const char* second) {
 // it is: two agree when both end at the same node.
 template <class Node, class Agree>
 bool AgreeItems(const Node* first, const Node* second, uint32_t count, Agree agree) {
-  for (; count > 0 && first && second; --count) {
-    if (!agree(*first, *second)) return false;
-    first = first->next;
-    second = second->next;
+  Items a(first, count);
+  Items b(second, count);
+  for (; !a.AtEnd() && !b.AtEnd(); ++a, ++b) {
+    if (!agree(*a, *b)) return false;
   }
-  return count == 0 || first == second;
+  return a.AtEnd() && b.AtEnd();
 }
 
 // Only what the user would be told: less urgent statuses do not count.

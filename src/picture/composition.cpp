@@ -244,14 +244,13 @@ bool MarkTrays(WorkList& work, const PrnInfoEx& info, uint32_t picture, uint32_t
                uint32_t paperCode) {
   if (picture == status && info.currentTray != 0) return ApplyTrayRule(work, info.currentTray);
   bool marked = false;
-  uint32_t left = info.trayCount;
-  for (const TrayNode* tray = info.trayList; tray && left > 0; tray = tray->next, --left) {
-    if (tray->paperCode == paperCode) marked |= ApplyTrayRule(work, tray->trayId);
+  const Items trays(info.trayList, info.trayCount);
+  for (const TrayNode& tray : trays) {
+    if (tray.paperCode == paperCode) marked |= ApplyTrayRule(work, tray.trayId);
   }
-  left = info.trayCount;
-  for (const TrayNode* tray = info.trayList; tray && left > 0; tray = tray->next, --left) {
-    if (tray->paperLevel <= kEmptyLevel && IsTrayPresent_Ex(&info, tray->trayId))
-      marked |= ApplyTrayRule(work, tray->trayId);
+  for (const TrayNode& tray : trays) {
+    if (tray.paperLevel <= kEmptyLevel && IsTrayPresent_Ex(&info, tray.trayId))
+      marked |= ApplyTrayRule(work, tray.trayId);
   }
   return marked;
 }

@@ -1,29 +1,17 @@
 // The print manager's record into the list-based one.
-#include <cstring>
-
 #include "platform/system_error.h"
 #include "pm/derivation.h"
 #include "pm/name_tables.h"
-#include "records/configuration_blocks.h"
 #include "records/item_list.h"
+#include "records/record_text.h"
 #include "stmdata/stmdata.h"
 
 namespace stm {
 namespace {
 
-// Strings of any length are taken whole, in a block of at least `least` bytes. The new block is
-// filled before the old one goes, so that a caller may hand in the record's own string.
-void ReplaceText(char** field, const char* text, size_t least = 0) {
-  const size_t bytes = std::strlen(text) + 1;
-  auto* block = static_cast<char*>(GlobalAlloc(GPTR, bytes < least ? least : bytes));
-  if (block) std::memcpy(block, text, bytes);
-  GlobalFree(*field);
-  *field = block;
-}
-
 // A later reply writes its own version text over this one, into the same block.
-void ReplaceVersionText(char** field, const char* text) {
-  ReplaceText(field, text, kVersionBytes);
+void ReplaceVersionText(char*& field, const char* text) {
+  ReplaceText(field, text, nullptr, kVersionBytes);
 }
 
 // Brings a list to the group's length and fills each node from its item. Nodes that are already
@@ -33,11 +21,11 @@ void ReplaceVersionText(char** field, const char* text) {
 template <class Item, class Node, class Fill>
 bool FillList(Node*& list, uint32_t& count, const PMItemGroup* group, Fill fill) {
   if (!HasItems(group) || group->count == 0) return false;
-  list = ResizeItemList(list, CountItems(list), group->count);
+  list = ResizeItemList(list, group->count);
   if (!list) return false;
   count = 0;
-  for (Node* node = list; node; node = node->next)
-    fill(*node, ItemOf<Item>(*group, count++));
+  for (Node& node : Items(list))
+    fill(node, ItemOf<Item>(*group, count++));
   return true;
 }
 
@@ -56,13 +44,12 @@ void ConvertModel(PrnInfoEx* info, const PMPrnInfo& pm) {
   const PMModelInfo& model = *pm.modelInfo;
   if (IsPresent(model.modelName)) {
     info->modelCode = ModelCode(model.modelName);
-    ReplaceText(&info->modelName, model.modelName);
+    ReplaceText(info->modelName, model.modelName);
   }
-  if (IsPresent(model.versionText)) ReplaceVersionText(&info->versionText1, model.versionText);
+  if (IsPresent(model.versionText)) ReplaceVersionText(info->versionText1, model.versionText);
   if (IsPresent(model.number)) info->modelInfoNumber = model.number;
-  ReplaceText(&info->manufacturer, kMaker);
-  GlobalFree(info->description);
-  info->description = nullptr;
+  ReplaceText(info->manufacturer, kMaker);
+  ReleaseText(info->description);
 }
 
 void ConvertTrays(PrnInfoEx* info, const PMPrnInfo& pm) {
@@ -83,9 +70,9 @@ void ConvertEmulations(PrnInfoEx* info, const PMPrnInfo& pm) {
     node.emulationCode = static_cast<uint16_t>(EmulationCode(emulation));
     if (!IsPresent(emulation.versionText)) return;
     if (node.emulationCode == kEmulationWxdlC) {
-      ReplaceVersionText(&info->versionText2, emulation.versionText);
+      ReplaceVersionText(info->versionText2, emulation.versionText);
     } else if (node.emulationCode == kEmulationOrlexScript2) {
-      ReplaceVersionText(&info->versionText3, emulation.versionText);
+      ReplaceVersionText(info->versionText3, emulation.versionText);
     }
   };
   if (!FillList<PMEmulation>(info->emulationList, info->emulationCount, pm.emulationInfo, fill))
@@ -114,7 +101,8 @@ void ConvertBins(PrnInfoEx* info, const PMPrnInfo& pm) {
   info->currentBin = IsPresent(current) ? current - 1 : uint32_t{BinUnknown};
 }
 
-// A status list under construction. What cannot be allocated is neither listed nor counted.
+// A status list under construction. What cannot be allocated, or would make it longer than a list
+// can be, is neither listed nor counted.
 struct StatusChain {
   StatusNode* head;
   StatusNode** tail;
@@ -122,7 +110,7 @@ struct StatusChain {
 };
 
 void Append(StatusChain& chain, uint32_t code) {
-  StatusNode* node = NewItem<StatusNode>();
+  StatusNode* node = chain.count < kLongestList ? NewItem<StatusNode>() : nullptr;
   if (!node) return;
   node->code = static_cast<uint16_t>(code);
   *chain.tail = node;

@@ -7,6 +7,7 @@
 #include "names/font_names.h"
 #include "names/name_index.h"
 #include "records/item_list.h"
+#include "records/record_text.h"
 
 namespace stm {
 namespace {
@@ -19,7 +20,7 @@ constexpr uint32_t kMostOfFont = 127;
 
 // Keeps a version text of six characters at most. A block that the record holds is written over.
 void KeepVersion(std::string_view value, char*& text, Room* room) {
-  if (!text) text = static_cast<char*>(TakeBlock(room, kVersionBytes));
+  if (!IsPresent(text)) text = static_cast<char*>(TakeBlock(room, kVersionBytes));
   if (!text) return;
   std::memcpy(text, value.data(), value.size());
   text[value.size()] = '\0';

@@ -9,10 +9,6 @@
 
 namespace stm {
 
-// A version text's block: six characters and the zero byte. Who fills such a text from elsewhere
-// gives it this much at least, since a reply writes over what is there.
-constexpr uint32_t kVersionBytes = 7;
-
 // Each parses the text of a block.
 void ParseVersionBlock(const Block& block, Filling to);
 void ParseNumberBlock(const Block& block, Filling to);

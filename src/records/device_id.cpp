@@ -6,6 +6,7 @@
 #include "names/name_index.h"
 #include "records/item_list.h"
 #include "records/record.h"
+#include "records/record_text.h"
 #include "records/scanners.h"
 #include "stmdata/stmdata.h"
 
@@ -31,26 +32,21 @@ bool EndsField(const Value& value) {
   return Left(value) > 0 && value.end[-1] == kFieldEnd;
 }
 
-// Replaces a string of the record, by null without memory. The new one is filled before the old one
-// goes, so that a caller may hand in the record's own string.
-void ReplaceText(char*& text, const Value& value, Room* room) {
-  auto* block = static_cast<char*>(TakeBlock(room, Left(value) + 1));
-  if (block) std::memcpy(block, value.position, Left(value));
-  if (text) ReleaseBlock(room, text);
-  text = block;
+std::string_view TextOf(const Value& value) {
+  return {value.position, Left(value)};
 }
 
 // A printer whose name cannot be kept counts as unknown.
 template <const auto& kModels>
 void ReplaceNamedModel(Filling to, char*& name, Value value) {
   DropLast(value);
-  ReplaceText(name, value, to.room);
+  ReplaceText(name, TextOf(value), to.room);
   to.record->modelCode = static_cast<uint8_t>(name ? LookupNameCode<kModels>(name) : ModelUnknown);
 }
 
 void ReadManufacturer(Filling to, Value value) {
   if (EndsField(value)) DropLast(value);
-  ReplaceText(to.record->manufacturer, value, to.room);
+  ReplaceText(to.record->manufacturer, TextOf(value), to.room);
 }
 
 // Codes of more than six characters are split; each piece loses its comma, the last one of a

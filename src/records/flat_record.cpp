@@ -18,16 +18,16 @@ void CopyTextIfHeld(char (&field)[Width], const char* text) {
 
 // Stores what `entryOf` makes of each node, as far as the array reaches. Result: the number stored.
 template <class Node, class Entry, uint32_t Capacity, class EntryOf>
-uint32_t CopyItems(const Node* node, Entry (&array)[Capacity], EntryOf entryOf) {
+uint32_t CopyItems(const Node* head, Entry (&array)[Capacity], EntryOf entryOf) {
   uint32_t stored = 0;
-  for (; node && stored < Capacity; node = node->next)
-    array[stored++] = entryOf(*node);
+  for (const Node& node : Items(head, Capacity))
+    array[stored++] = entryOf(node);
   return stored;
 }
 
 template <class Node, uint32_t Capacity>
-uint32_t CopyKeys(const Node* node, uint32_t (&array)[Capacity]) {
-  return CopyItems(node, array, [](const Node& item) -> uint32_t { return KeyOf(item); });
+uint32_t CopyKeys(const Node* head, uint32_t (&array)[Capacity]) {
+  return CopyItems(head, array, [](const Node& item) -> uint32_t { return KeyOf(item); });
 }
 
 void CopyDeviceId(const PrnInfoEx& source, PrnInfo* target) {
@@ -126,8 +126,8 @@ constexpr OptionFlag kOptionsEverListed[] = {
 void CopyOptions(const PrnInfoEx& source, PrnInfo* target) {
   if (!source.optionList) return;
   uint32_t listed = 0;  // a bit per option code
-  for (const OptionNode* node = source.optionList; node; node = node->next) {
-    if (node->optionCode < 32) listed |= 1u << node->optionCode;
+  for (const OptionNode& node : Items(source.optionList)) {
+    if (node.optionCode < 32) listed |= 1u << node.optionCode;
   }
   const auto isListed = [listed](uint32_t code) { return (listed >> code & 1) != 0; };
 

@@ -1,9 +1,12 @@
 // Item lists: singly linked nodes, each a zero-filled block of its own. A list is its head pointer;
 // the record's count field beside it may disagree with the chain, so every operation ends at the
-// chain's end and none trusts a count.
+// chain's end and none trusts a count. A chain that the caller linked may lead back into itself:
+// who walks one does it through `Items`, which ends all the same.
 #pragma once
 
+#include <algorithm>
 #include <cstdint>
+#include <iterator>
 
 #include "records/room.h"
 #include "stmdata/records.h"
@@ -30,6 +33,54 @@ inline uint16_t KeyOf(const EmulationNode& node) {
   return node.emulationCode;
 }
 
+// Where a walk ends at the latest. A list is shorter, so that a chain which goes on to there is
+// known for one that does not end.
+inline constexpr uint32_t kLongestWalk = 65536;
+inline constexpr uint32_t kLongestList = kLongestWalk - 1;
+
+// A walk along a chain, of `most` nodes at most: a range, or a cursor that stands on a node until
+// it is at the end.
+template <class Node>
+class Items {
+ public:
+  explicit Items(Node* head, uint32_t most = kLongestWalk)
+      : node_(head), left_(std::min(most, kLongestWalk)) {}
+
+  Items begin() const { return *this; }
+  std::default_sentinel_t end() const { return {}; }
+
+  bool operator==(std::default_sentinel_t) const { return AtEnd(); }
+  bool AtEnd() const { return !node_ || left_ == 0; }
+  Node& operator*() const { return *node_; }
+  Node* operator->() const { return node_; }
+  Items& operator++() {
+    node_ = node_->next;
+    --left_;
+    return *this;
+  }
+
+ private:
+  Node* node_;
+  uint32_t left_;
+};
+
+template <class Node>
+Node* ItemAt(Node* head, uint32_t index) {
+  for (Node& node : Items(head)) {
+    if (index-- == 0) return &node;
+  }
+  return nullptr;
+}
+
+// The first node with the key; a key above 65535 matches none.
+template <class Node>
+Node* FindItem(Node* head, uint32_t key) {
+  for (Node& node : Items(head)) {
+    if (KeyOf(node) == key) return &node;
+  }
+  return nullptr;
+}
+
 // A zero-filled node, or null without memory.
 template <class Node>
 Node* NewItem(Room* room = nullptr) {
@@ -38,9 +89,11 @@ Node* NewItem(Room* room = nullptr) {
   return node;
 }
 
-// Releases every node. Result: null, the empty list.
+// Releases every node. Result: null, the empty list. A chain that does not end stays its owner's: a
+// node that it leads back to would be released twice.
 template <class Node>
 Node* FreeItemList(Node* head, Room* room = nullptr) {
+  if (ItemAt(head, kLongestList)) return nullptr;
   while (head) {
     Node* next = head->next;
     ReleaseBlock(room, head);
@@ -71,15 +124,6 @@ Node* NextItem(Node**& link, Room* room) {
   return node;
 }
 
-// Appends zero-filled nodes until the list holds `count`; stops early without memory.
-template <class Node>
-void GrowItemList(Node** link, uint32_t count) {
-  for (uint32_t held = 0; held < count; ++held, link = &(*link)->next) {
-    if (!*link) *link = NewItem<Node>();
-    if (!*link) return;
-  }
-}
-
 // A list of `count` nodes, of one node when `count` is 0; null when memory does not suffice for
 // all.
 template <class Node>
@@ -93,32 +137,18 @@ Node* AllocItemList(uint32_t count, Room* room = nullptr) {
   return head;
 }
 
+// Brings a list to `count` nodes; kept nodes keep place and contents. A count of 0 releases the
+// list. Without memory the list stays shorter.
 template <class Node>
-Node* ItemAt(Node* head, uint32_t index) {
-  while (head && index-- > 0)
-    head = head->next;
-  return head;
-}
-
-// The first node with the key; a key above 65535 matches none.
-template <class Node>
-Node* FindItem(Node* head, uint32_t key) {
-  while (head && KeyOf(*head) != key)
-    head = head->next;
-  return head;
-}
-
-// Brings a list from `oldCount` to `newCount` nodes; kept nodes keep place and contents. A new
-// count of 0 releases the list. Without memory the list stays shorter.
-template <class Node>
-Node* ResizeItemList(Node* head, uint32_t oldCount, uint32_t newCount) {
-  if (newCount > oldCount) {
-    GrowItemList(&head, newCount);
-  } else if (newCount == 0 && oldCount != 0) {
-    return FreeItemList(head);
-  } else if (newCount < oldCount) {
-    if (Node* last = ItemAt(head, newCount - 1)) last->next = FreeItemList(last->next);
+Node* ResizeItemList(Node* head, uint32_t count) {
+  if (count == 0) return FreeItemList(head);
+  Node** link = &head;
+  for (uint32_t held = 0; held < std::min(count, kLongestList); ++held) {
+    if (!*link) *link = NewItem<Node>();
+    if (!*link) return head;
+    link = &(*link)->next;
   }
+  *link = FreeItemList(*link);
   return head;
 }
 
@@ -136,21 +166,16 @@ void RebuildItemList(Node*& head, uint32_t& count, uint32_t newCount, Room* room
 // Unlinks and releases `node`; a node of another list is left alone. Result: the head.
 template <class Node>
 Node* RemoveItem(Node* head, Node* node) {
-  for (Node** link = &head; *link; link = &(*link)->next) {
-    if (*link != node) continue;
-    *link = node->next;
-    GlobalFree(node);
-    break;
+  Node** link = &head;
+  for (Node& held : Items(head)) {
+    if (&held == node) {
+      *link = node->next;
+      GlobalFree(node);
+      break;
+    }
+    link = &held.next;
   }
   return head;
-}
-
-template <class Node>
-uint32_t CountItems(const Node* head) {
-  uint32_t count = 0;
-  for (; head; head = head->next)
-    ++count;
-  return count;
 }
 
 }  // namespace stm

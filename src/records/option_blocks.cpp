@@ -80,8 +80,9 @@ void ParsePresenceBlock(const Block& block, Filling to, uint16_t optionCode) {
   if (Peek(BodyOf(block)) == '0') return;
   OptionNode** link = &to.record->optionList;
   if (to.record->optionCount != 0) {
-    for (; *link; link = &(*link)->next) {
-      if ((*link)->optionCode == optionCode) return;
+    for (OptionNode& node : Items(*link)) {
+      if (node.optionCode == optionCode) return;
+      link = &node.next;
     }
   }
   auto* added = NewItem<OptionNode>(to.room);

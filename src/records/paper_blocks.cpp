@@ -52,16 +52,16 @@ constexpr EntryRule<BinNode> kBinRule = {
 template <const auto& rule>
 void ParseEntries(const Block& block, Filling to) {
   RebuildItemList(to.record->*rule.list, to.record->*rule.count, block.crCount / 2, to.room);
-  auto* cursor = to.record->*rule.list;
+  Items unnamed(to.record->*rule.list);
 
   Fields fields = FieldsOf(block);
   while (!AtEnd(fields)) {
     const auto key = static_cast<uint16_t>(rule.idOf(NextField(fields, kMostOfField)));
     const uint16_t value = rule.valueOf(NextField(fields, kMostOfField));
     auto* node = FindItem(to.record->*rule.list, key);
-    if (!node && cursor) {
-      node = cursor;
-      cursor = cursor->next;
+    if (!node && !unnamed.AtEnd()) {
+      node = &*unnamed;
+      ++unnamed;
       node->*rule.key = key;
     }
     if (node) node->*rule.field = value;

@@ -3,6 +3,7 @@
 #include <initializer_list>
 
 #include "records/item_list.h"
+#include "records/record_text.h"
 
 namespace stm {
 
@@ -11,9 +12,8 @@ uint32_t FreePrnInfoEx(TemporaryRecord* temporary) {
   const PrnInfoEx& record = temporary->record;
   Room* room = &temporary->room;
   for (char* text : {record.modelName, record.manufacturer, record.description, record.versionText1,
-                     record.versionText2, record.versionText3}) {
-    if (text) ReleaseBlock(room, text);
-  }
+                     record.versionText2, record.versionText3})
+    ReleaseText(text, room);
   FreeItemList(record.statusList, room);
   FreeItemList(record.emulationList, room);
   FreeItemList(record.fontList, room);

@@ -21,10 +21,10 @@ inline bool HasBlock(const Room& room, const void* block) {
 }
 
 // A zero-filled block, from `room` when there is one with as much left; null without memory.
-inline void* TakeBlock(Room* room, uint32_t size) {
+inline void* TakeBlock(Room* room, size_t size) {
   if (!room || size > sizeof room->bytes - room->taken) return GlobalAlloc(GPTR, size);
   void* block = room->bytes + room->taken;
-  room->taken += (size + alignof(void*) - 1) & ~(alignof(void*) - 1);
+  room->taken += static_cast<uint32_t>(size + alignof(void*) - 1) & ~(alignof(void*) - 1);
   return block;
 }
 

@@ -31,9 +31,9 @@ void ParseStatusBlock(const Block& block, Filling to) {
   RebuildItemList(to.record->statusList, to.record->statusCount, CountCodes(codes), to.room);
   to.record->hasError = 0;
   Input codeFields{codes.text.data(), codes.text.data() + codes.text.size()};
-  for (StatusNode* node = to.record->statusList; node; node = node->next) {
-    node->code = static_cast<uint16_t>(ParseDecimal(ScanField(codeFields, kMostOfCode, ',').text));
-    if (StatusClass(node->code) == StatusClassError) to.record->hasError = 1;
+  for (StatusNode& node : Items(to.record->statusList)) {
+    node.code = static_cast<uint16_t>(ParseDecimal(ScanField(codeFields, kMostOfCode, ',').text));
+    if (StatusClass(node.code) == StatusClassError) to.record->hasError = 1;
   }
 
   const char onlineFlag = Peek(fields);

@@ -19,7 +19,7 @@ bool ShowsPrinting(const StatusView& view, uint32_t priority) {
 uint32_t ChooseOne(StatusView view) {
   if (view.noResponse) return StatusNoResponse;
   uint32_t best = kPriorityRows;
-  for (uint32_t code; best > 0 && TakeCode(&view, &code);)
+  for (uint32_t code; best > 0 && TakeNext(&view.codes, &code);)
     best = std::min(best, FindPriorityRow(code));
   if (ShowsPrinting(view, kPriorityTable[best].priority)) return StatusPrinting;
   return kPriorityTable[best].code;
@@ -48,7 +48,7 @@ uint32_t ChooseAll(StatusView view, uint32_t* codes) {
     return 1;
   }
   TieSet ties{{}, 0, kNoPriority};
-  for (uint32_t code; TakeCode(&view, &code);) {
+  for (uint32_t code; TakeNext(&view.codes, &code);) {
     const uint32_t row = FindPriorityRow(code);
     const uint32_t priority = kPriorityTable[row].priority;
     if (row == kPriorityRows || priority > ties.priority) continue;

@@ -214,7 +214,7 @@ uint32_t TellDetail(const Statement& statement, const Suffix& suffix, const Targ
 // ---- Trays --------------------------------------------------------------------------------------
 
 bool HasMissingTray(TrayView trays) {
-  for (Tray tray; TakeTray(&trays, &tray);) {
+  for (TrayPaper tray; TakeNext(&trays, &tray);) {
     if (tray.paperCode == PaperTrayMissing) return true;
   }
   return false;
@@ -225,11 +225,11 @@ template <class Record>
 bool HasEmptyTray(const Record& info, uint32_t (*isPresent)(const Record*, uint32_t),
                   uint32_t exemptTray) {
   TrayView trays = ViewTrays(info);
-  for (Tray tray; TakeTray(&trays, &tray);) {
-    if (tray.id != exemptTray && tray.paperCode == PaperNone) return true;
+  for (TrayPaper tray; TakeNext(&trays, &tray);) {
+    if (tray.trayId != exemptTray && tray.paperCode == PaperNone) return true;
   }
   LevelView levels = ViewLevels(info);
-  for (TrayLevel tray; TakeLevel(&levels, &tray);) {
+  for (TrayLevel tray; TakeNext(&levels, &tray);) {
     if (tray.trayId != exemptTray && tray.paperLevel <= 1 && isPresent(&info, tray.trayId))
       return true;
   }
@@ -296,7 +296,7 @@ uint32_t RecoveryCode(const PrnInfoEx& info) {
   if (info.noResponse) return StatusNoResponse;
   StatusView view = ViewStatus(info);
   uint32_t first = StatusPrinting;
-  TakeCode(&view, &first);
+  TakeNext(&view.codes, &first);
   return info.printing && first <= kLastMildCode ? uint32_t{StatusPrinting} : first;
 }
 

@@ -4,7 +4,9 @@
 
 #include <algorithm>
 #include <cstdint>
+#include <span>
 
+#include "records/item_list.h"
 #include "stmdata/records.h"
 
 namespace stm {
@@ -13,39 +15,59 @@ namespace stm {
 // said to be offline, a printing one to print.
 inline constexpr uint32_t kLastMildCode = 23;
 
+// What a record lists: the entries of a flat record's array, or the nodes of a list-based record's
+// chain; as many as the record's count says, but none past the array's or the chain's end.
+template <class Entry, class Node>
+struct Listed {
+  std::span<const Entry> entries;
+  Items<const Node> nodes{nullptr};
+};
+
 template <class Entry, size_t Capacity>
-uint32_t CountWithin(const Entry (&)[Capacity], uint32_t count) {
-  return std::min<uint32_t>(count, Capacity);
+std::span<const Entry> CountedEntries(const Entry (&array)[Capacity], uint32_t count) {
+  return {array, std::min<size_t>(count, Capacity)};
 }
 
-// The listed statuses of a record, as many as its count says but none past the array or the chain.
+// What a node says, as an entry.
+inline void Read(const StatusNode& node, uint32_t* code) {
+  *code = node.code;
+}
+inline void Read(const TrayNode& node, TrayPaper* tray) {
+  *tray = {node.trayId, node.paperCode};
+}
+inline void Read(const TrayNode& node, TrayLevel* tray) {
+  *tray = {node.trayId, node.paperLevel};
+}
+
+// Takes the next entry; false at the end.
+template <class Entry, class Node>
+bool TakeNext(Listed<Entry, Node>* listed, Entry* entry) {
+  if (!listed->entries.empty()) {
+    *entry = listed->entries.front();
+    listed->entries = listed->entries.subspan(1);
+    return true;
+  }
+  if (listed->nodes.AtEnd()) return false;
+  Read(*listed->nodes, entry);
+  ++listed->nodes;
+  return true;
+}
+
 struct StatusView {
-  const uint32_t* codes;    // of a flat record, else null
-  const StatusNode* nodes;  // of a list-based record, else null
-  uint32_t count;
+  Listed<uint32_t, StatusNode> codes;
   bool printing;
   bool noResponse;
 };
 
 inline StatusView ViewStatus(const PrnInfo& info) {
-  const uint32_t count = CountWithin(info.statusList, info.statusCount);
-  return {info.statusList, nullptr, count, info.printing != 0, info.noResponse != 0};
+  return {{CountedEntries(info.statusList, info.statusCount)},
+          info.printing != 0,
+          info.noResponse != 0};
 }
 inline StatusView ViewStatus(const PrnInfoEx& info) {
-  return {nullptr, info.statusList, info.statusCount, info.printing != 0, info.noResponse != 0};
-}
-
-// Takes the next listed code from the view; false at the end.
-inline bool TakeCode(StatusView* view, uint32_t* code) {
-  if (view->count == 0 || (!view->codes && !view->nodes)) return false;
-  --view->count;
-  if (view->codes) {
-    *code = *view->codes++;
-  } else {
-    *code = view->nodes->code;
-    view->nodes = view->nodes->next;
-  }
-  return true;
+  return {{{}, Items<const StatusNode>(info.statusList, info.statusCount)},
+          info.printing != 0,
+          info.noResponse != 0};
 }
 
 // Whether the flat record's one code stands for a list.
@@ -54,61 +76,23 @@ inline bool HasSeveralStatuses(const PrnInfo& info) {
 }
 
 // The trays of a record with their paper.
-struct TrayView {
-  const TrayPaper* papers;  // of a flat record, else null
-  const TrayNode* nodes;    // of a list-based record, else null
-  uint32_t count;
-};
-
-struct Tray {
-  uint32_t id;
-  uint32_t paperCode;
-};
+using TrayView = Listed<TrayPaper, TrayNode>;
 
 inline TrayView ViewTrays(const PrnInfo& info) {
-  return {info.trayList, nullptr, CountWithin(info.trayList, info.trayCount)};
+  return {CountedEntries(info.trayList, info.trayCount)};
 }
 inline TrayView ViewTrays(const PrnInfoEx& info) {
-  return {nullptr, info.trayList, info.trayCount};
-}
-
-inline bool TakeTray(TrayView* view, Tray* tray) {
-  if (view->count == 0 || (!view->papers && !view->nodes)) return false;
-  --view->count;
-  if (view->papers) {
-    *tray = {view->papers->trayId, view->papers->paperCode};
-    ++view->papers;
-  } else {
-    *tray = {view->nodes->trayId, view->nodes->paperCode};
-    view->nodes = view->nodes->next;
-  }
-  return true;
+  return {{}, Items<const TrayNode>(info.trayList, info.trayCount)};
 }
 
 // The paper levels of a record.
-struct LevelView {
-  const TrayLevel* levels;  // of a flat record, else null
-  const TrayNode* nodes;    // of a list-based record, else null
-  uint32_t count;
-};
+using LevelView = Listed<TrayLevel, TrayNode>;
 
 inline LevelView ViewLevels(const PrnInfo& info) {
-  return {info.trayLevelList, nullptr, CountWithin(info.trayLevelList, info.trayLevelCount)};
+  return {CountedEntries(info.trayLevelList, info.trayLevelCount)};
 }
 inline LevelView ViewLevels(const PrnInfoEx& info) {
-  return {nullptr, info.trayList, info.trayCount};
-}
-
-inline bool TakeLevel(LevelView* view, TrayLevel* tray) {
-  if (view->count == 0 || (!view->levels && !view->nodes)) return false;
-  --view->count;
-  if (view->levels) {
-    *tray = *view->levels++;
-  } else {
-    *tray = {view->nodes->trayId, view->nodes->paperLevel};
-    view->nodes = view->nodes->next;
-  }
-  return true;
+  return {{}, Items<const TrayNode>(info.trayList, info.trayCount)};
 }
 
 }  // namespace stm

@@ -6,9 +6,9 @@ namespace stm {
 namespace {
 
 // False, and `found` untouched, when no tray has the id.
-bool FindTray(TrayView view, uint32_t id, Tray* found) {
-  for (Tray tray; TakeTray(&view, &tray);) {
-    if (tray.id != id) continue;
+bool FindTray(TrayView view, uint32_t id, TrayPaper* found) {
+  for (TrayPaper tray; TakeNext(&view, &tray);) {
+    if (tray.trayId != id) continue;
     *found = tray;
     return true;
   }
@@ -16,12 +16,12 @@ bool FindTray(TrayView view, uint32_t id, Tray* found) {
 }
 
 uint32_t IsPresent(const TrayView& view, uint32_t id) {
-  Tray tray;
+  TrayPaper tray;
   return FindTray(view, id, &tray) && tray.paperCode != PaperTrayMissing;
 }
 
 uint32_t IsListed(const TrayView& view, uint32_t id) {
-  Tray tray;
+  TrayPaper tray;
   return FindTray(view, id, &tray);
 }
 

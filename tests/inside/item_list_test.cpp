@@ -34,35 +34,30 @@ TEST_CASE("a fresh list has a node at least, each of its own size") {
   CHECK(stm::FreeItemList(one) == nullptr);
   OptionNode* three = stm::AllocItemList<OptionNode>(3);
   CHECK(test::Values(three, &OptionNode::nodeSize) == Codes(3, sizeof(OptionNode)));
-  CHECK(stm::CountItems(three) == 3);
   stm::FreeItemList(three);
   CHECK(stm::FreePrnInfoEx(nullptr) == 2);
 }
 
-TEST_CASE("a resized list keeps its first nodes and trusts no count") {
+TEST_CASE("a resized list keeps its first nodes") {
   struct {
     const char* why;
     Codes held;
-    uint32_t oldCount;
-    uint32_t newCount;
+    uint32_t count;
     Codes expected;
   } const rows[] = {
-      {"grow", {7, 8, 9}, 3, 5, {7, 8, 9, 0, 0}},
-      {"shrink to the head", {7, 8, 9}, 3, 1, {7}},
-      {"equal", {7, 8}, 2, 2, {7, 8}},
-      {"from nothing", {}, 0, 2, {0, 0}},
-      {"to nothing", {7, 8}, 2, 0, {}},
-      {"nothing to nothing", {}, 0, 0, {}},
-      {"longer than its count", {7, 8, 9}, 1, 2, {7, 8, 9}},
-      {"shorter than its count, grow", {7}, 3, 4, {7, 0, 0, 0}},
-      {"shorter than its count, shrink", {7}, 9, 5, {7}},
+      {"grow", {7, 8, 9}, 5, {7, 8, 9, 0, 0}},
+      {"shrink to the head", {7, 8, 9}, 1, {7}},
+      {"equal", {7, 8}, 2, {7, 8}},
+      {"from nothing", {}, 2, {0, 0}},
+      {"to nothing", {7, 8}, 0, {}},
+      {"nothing to nothing", {}, 0, {}},
   };
   for (const auto& row : rows) {
     CAPTURE(row.why);
     OptionNode* head = OptionsOf(row.held);
-    OptionNode* resized = stm::ResizeItemList(head, row.oldCount, row.newCount);
+    OptionNode* resized = stm::ResizeItemList(head, row.count);
     CHECK(CodesOf(resized) == row.expected);
-    if (head && row.newCount > 0) CHECK(resized == head);
+    if (head && row.count > 0) CHECK(resized == head);
     stm::FreeItemList(resized);
   }
 }
@@ -77,6 +72,32 @@ TEST_CASE("nodes are found by index and by their 16-bit key") {
   CHECK(stm::FindItem(head, 9) == nullptr);
   CHECK(stm::FindItem(head, 0x10004) == nullptr);
   stm::FreeItemList(head);
+}
+
+TEST_CASE("a chain that leads back into itself is walked, cut and left, but not released twice") {
+  OptionNode* head = OptionsOf({1, 2, 3});
+  OptionNode* const nodes[] = {head, head->next, head->next->next};
+  OptionNode* stranger = OptionsOf({2});
+  nodes[2]->next = nodes[1];
+  CHECK(stm::FindItem(head, 9) == nullptr);
+  CHECK(stm::ItemAt(head, stm::kLongestWalk - 1) == nodes[1]);
+  CHECK(stm::ItemAt(head, stm::kLongestWalk) == nullptr);
+  CHECK(stm::RemoveItem(head, stranger) == head);
+  CHECK(stm::FreeItemList(head) == nullptr);
+  CHECK(stm::ResizeItemList(head, 2) == head);
+  CHECK(CodesOf(head) == Codes{1, 2});
+  nodes[1]->next = head;
+  CHECK(stm::ResizeItemList(head, 5) == head);
+  CHECK(CodesOf(head) == Codes{1});
+  for (OptionNode* node : {nodes[0], nodes[1], nodes[2], stranger})
+    GlobalFree(node);
+}
+
+TEST_CASE("no list grows as long as the longest walk") {
+  FontNode* fonts = stm::ResizeItemList<FontNode>(nullptr, 0xFFFFFFFF);
+  CHECK(stm::ItemAt(fonts, stm::kLongestList - 1));
+  CHECK(!stm::ItemAt(fonts, stm::kLongestList));
+  stm::FreeItemList(fonts);
 }
 
 TEST_CASE("a removed node leaves the others linked; a stranger is left alone") {
