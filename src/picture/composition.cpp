@@ -1,13 +1,10 @@
 // Part lists of the printer picture. A list reads: base picture, the overlays in the order in which
 // the rules below collect them, the overlays of the status's own row.
-#include "picture/composition.h"
-
 #include <algorithm>
-#include <atomic>
 #include <cstring>
 
 #include "picture/composition_tables.h"
-#include "platform/shared_value.h"
+#include "picture/latest_list.h"
 #include "records/item_list.h"
 #include "status/dominant_status.h"
 #include "status/last_error.h"
@@ -23,54 +20,6 @@ constexpr uint32_t kComposed = 64;  // the result of a success, whatever the lis
 constexpr uint32_t kTray2 = 4;
 constexpr uint32_t kTray3 = 5;
 constexpr uint32_t kEmptyLevel = 1;  // a tray with this paper level or less holds no paper
-
-// ---- The latest list --------------------------------------------------------------------------
-
-// Drawing has no argument for the list, so the latest composition provides it. Each list is written
-// aside under a ticket, at a place that nobody writes, and then becomes the latest as a whole.
-struct StoredList {
-  std::atomic<uint32_t> version;  // odd while it is written
-  std::atomic<uint32_t> words[kPartListSize / 4];
-};
-
-constexpr uint32_t kStoredLists = 8;
-StoredList storedLists[kStoredLists];
-std::atomic<uint32_t> latestTicket;
-
-// Result: false while another thread writes there.
-bool BeginWriting(StoredList& list) {
-  uint32_t version = list.version.load(std::memory_order_relaxed) & ~1u;
-  return list.version.compare_exchange_strong(version, version + 1, std::memory_order_acq_rel);
-}
-
-void RememberPartList(const uint8_t* codes) {
-  uint32_t latest = latestTicket.load(std::memory_order_acquire);
-  uint32_t ticket = latest + 1;
-  for (; !BeginWriting(storedLists[ticket % kStoredLists]); ++ticket) {
-  }
-  StoredList& list = storedLists[ticket % kStoredLists];
-  for (std::atomic<uint32_t>& word : list.words) {
-    uint32_t four;
-    std::memcpy(&four, codes, 4);
-    codes += 4;
-    SetShared(word, four, std::memory_order_release);
-  }
-  list.version.fetch_add(1, std::memory_order_release);
-  // Where another composition got ahead meanwhile, that one is the latest.
-  latestTicket.compare_exchange_strong(latest, ticket, std::memory_order_acq_rel);
-}
-
-// Result: false when the list was written anew meanwhile.
-bool ReadStoredList(const StoredList& list, PartList* codes) {
-  const uint32_t version = list.version.load(std::memory_order_acquire);
-  uint8_t* to = codes->data();
-  for (const std::atomic<uint32_t>& word : list.words) {
-    const uint32_t four = word.load(std::memory_order_acquire);
-    std::memcpy(to, &four, 4);
-    to += 4;
-  }
-  return version % 2 == 0 && list.version.load(std::memory_order_relaxed) == version;
-}
 
 // ---- Overlays collected -----------------------------------------------------------------------
 
@@ -361,7 +310,9 @@ uint32_t Compose(const Record* info, uint8_t* partCodes, uint8_t* extraPartCodes
   const Statuses statuses = StatusesOf(*info);
   CollectOverlays(work, *info, statuses);
   Merge(FindPictureRow(statuses.picture), work, partCodes);
-  RememberPartList(partCodes);
+  PartList list;
+  std::memcpy(list.data(), partCodes, list.size());
+  StoreLatestList(list);
   return kComposed;
 }
 
@@ -373,15 +324,6 @@ uint32_t ComposeBitmap(const Record* info, PrnBitmap* bitmap) {
 }
 
 }  // namespace
-
-PartList LastPartList() {
-  PartList codes;
-  const StoredList* list;
-  do {
-    list = &storedLists[latestTicket.load(std::memory_order_acquire) % kStoredLists];
-  } while (!ReadStoredList(*list, &codes));
-  return codes;
-}
 
 }  // namespace stm
 

@@ -1,5 +1,5 @@
 // Draws the picture into a control of a dialog, layer by layer.
-#include "picture/composition.h"
+#include "picture/latest_list.h"
 #include "platform/windows_api.h"
 #include "resources/resource_access.h"
 #include "status/parts_table.h"
@@ -52,7 +52,7 @@ bool BlitLayer(const Control& control, const char* bitmapName, uint32_t rop) {
 // PatGetError at PatErrorNullRecord.
 void DrawPicture(const Control& control, uint32_t flags) {
   bool first = true;
-  for (const uint8_t code : LastPartList()) {
+  for (const uint8_t code : LatestList()) {
     if (code == 0 || code >= kPartCount) continue;
     PrnPart part;
     PatGetPrnParts(nullptr, code, &part);

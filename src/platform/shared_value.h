@@ -9,9 +9,8 @@ namespace stm {
 // move like any other, and beside another thread's read it would be reported as a race. Where no
 // other thread can be reading, a store is enough.
 template <class Value>
-void SetShared(std::atomic<Value>& place, Value value,
-               std::memory_order order = std::memory_order_relaxed) {
-  place.exchange(value, order);
+void SetShared(std::atomic<Value>& place, Value value) {
+  place.exchange(value, std::memory_order_relaxed);
 }
 
 }  // namespace stm

@@ -5,9 +5,21 @@
 #ifdef _WIN32
 #include <windows.h>
 #else
+#include <pthread.h>
+
 #include "stmdata/host.h"
 
 using HDC = struct HDC__*;
+
+// A lock, free at first. A thread that holds it must not ask for it again.
+using SRWLOCK = pthread_mutex_t;
+#define SRWLOCK_INIT PTHREAD_MUTEX_INITIALIZER
+inline void AcquireSRWLockExclusive(SRWLOCK* lock) {
+  pthread_mutex_lock(lock);
+}
+inline void ReleaseSRWLockExclusive(SRWLOCK* lock) {
+  pthread_mutex_unlock(lock);
+}
 
 extern "C" {
 // Orders two strings; 0 when they are equal. Case counts. Both are by byte here. On Windows they

@@ -3,7 +3,7 @@
 #include <atomic>
 
 #include "doctest/doctest.h"
-#include "picture/composition.h"
+#include "picture/latest_list.h"
 #include "run_together.h"
 #include "stmdata/stmdata.h"
 
@@ -38,13 +38,13 @@ TEST_CASE("compositions at once never mix their part lists") {
   };
   for (size_t i = 0; i < kThreads; ++i) {
     compose(i);
-    CHECK(stm::LastPartList() == lists[i]);
+    CHECK(stm::LatestList() == lists[i]);
   }
   const auto wanted = lists;
   test::RunTogether(kThreads, [&](size_t thread) {
     for (int round = 0; round < 20000; ++round) {
       compose(thread);
-      const stm::PartList last = stm::LastPartList();
+      const stm::PartList last = stm::LatestList();
       if (std::find(wanted.begin(), wanted.end(), last) == wanted.end()) ++mixed;
     }
   });
