@@ -136,44 +136,60 @@ def nearest(rgb, cache={}):
     return cache[rgb]
 
 
+# What reading a step of run-length compression costs beside each byte of it, about.
+STEP, PIXEL = 6, 0.5
+
+
+def steps(row, bits):
+    """The cheapest steps of a row: (first pixel, count, written one by one)."""
+    width, most = len(row), 255
+    period = 2 if bits == 4 else 1  # a run of RLE4 is of two indices in turn
+    same = list(range(width, 0, -1))  # how far the row goes on in turn from each pixel
+    for x in range(width - 1 - period, -1, -1):
+        same[x] = same[x + 1] + 1 if row[x] == row[x + period] else period
+    # Cheapest way to each pixel: (cost, the step that leads to it).
+    best = [None] * (width + 1)
+    best[0] = (0, None)
+
+    def reach(x, count, plain, cost):
+        cost += best[x][0]
+        if best[x + count] is None or cost < best[x + count][0]:
+            best[x + count] = (cost, (x, count, plain))
+    for x in range(width):
+        if best[x] is None:
+            continue
+        longest = min(same[x], most)
+        for count in {longest, longest - 1, longest - 2} if longest > 4 else range(1, longest + 1):
+            reach(x, count, False, STEP + 2)
+        # Spans of four pixels and their multiples only: they are longer than two pixels, as the
+        # format asks, and fill whole words, so no reader has to skip padding.
+        for count in range(4, min(44, width - x) + 1, 4):
+            reach(x, count, True, STEP + 2 + (count // 2 if bits == 4 else count) + count * PIXEL)
+    found, x = [], width
+    while x:
+        found.append(best[x][1])
+        x = found[-1][0]
+    return found[::-1]
+
+
 def rle(rows, bits):
     """Run-length compress rows (top first) as BI_RLE8 or BI_RLE4, bottom row first."""
-    out = bytearray()
+    def byte(row, x):
+        return row[x] << 4 | row[min(x + 1, len(row) - 1)] if bits == 4 else row[x]
+    out, known = bytearray(), {}
     for row in reversed(rows):
-        runs = []
-        for p in row:
-            if runs and runs[-1][0] == p and runs[-1][1] < 255:
-                runs[-1][1] += 1
-            else:
-                runs.append([p, 1])
-        pending = []  # pixels of short runs, to be written uncompressed
-
-        def flush():
-            # Uncompressed spans of four pixels and their multiples only: they are longer than two
-            # pixels, as the format asks, and fill whole words, so no reader has to skip padding.
-            while len(pending) >= 4:
-                n = min(len(pending), 252) // 4 * 4
-                part = pending[:n]
-                del pending[:n]
-                out.extend((0, n))
-                if bits == 4:
-                    out.extend(a << 4 | b for a, b in zip(part[::2], part[1::2]))
+        key = tuple(row)
+        if key not in known:
+            line = bytearray()
+            for x, count, plain in steps(row, bits):
+                if plain:
+                    line += bytes((0, count))
+                    line += bytes(byte(row, k) for k in range(x, x + count, 2 if bits == 4 else 1))
                 else:
-                    out.extend(part)
-            while pending:
-                p = pending.pop(0)
-                out.extend((1, p << 4 | p if bits == 4 else p))
-
-        for p, n in runs:
-            if n >= (6 if bits == 4 else 4):
-                flush()
-                out.extend((n, p << 4 | p if bits == 4 else p))
-            else:
-                pending.extend([p] * n)
-        flush()
-        out.extend((0, 0))
-    out.extend((0, 1))
-    return bytes(out)
+                    line += bytes((count, byte(row, x) if count > 1 else byte([row[x]] * 2, 0)))
+            known[key] = line + bytes((0, 0))
+        out += known[key]
+    return bytes(out + bytes((0, 1)))
 
 
 def palette_bytes():

@@ -251,9 +251,7 @@ def cleared(z):
 
 def tray_front(z, number):
     return [front(4, WIDTH - 4, z + 2, z + TRAY - 2, "white", "mid", radius=2),
-            front(4.6, WIDTH - 4.6, z + 2.6, z + 5, "pale", None),
-            front(78, 122, z + 4.6, z + 9.6, "mid", "dark", radius=1.5),
-            front(79, 121, z + 7.2, z + 9, "dark", None),
+            front(78, 122, z + 4.6, z + 9.4, "dark", None, radius=1.5),
             letter(number, 184, z + 7, 6, 0, "dark", 1.2)]
 
 
@@ -286,14 +284,14 @@ def output_tray(front_edge, back_edge, deep):
 def printed_sheet():
     return [poly([(46, 30, HEIGHT), (146, 30, HEIGHT), (146, 92, HEIGHT - 9), (46, 92, HEIGHT - 9)],
                  "white", "dark", 0.9)] + [
-            line([(60, y, HEIGHT - 9 * (y - 30) / 62), (x, y, HEIGHT - 9 * (y - 30) / 62)], "soft")
-            for y, x in ((40, 132), (48, 132), (56, 108), (70, 132), (78, 120))]
+            line([(60, y, HEIGHT - 9 * (y - 30) / 62), (x, y, HEIGHT - 9 * (y - 30) / 62)], "soft",
+                 1.2)
+            for y, x in ((43, 132), (56, 104), (72, 132))]
 
 
 def panel(lit="green", screen="cyan"):
     x0, x1, z0, z1 = DISPLAY
     return [front(0, WIDTH, PANEL, HEIGHT, "dark", None),
-            front(0, WIDTH, HEIGHT - 2, HEIGHT, "mid", None),
             front(x0, x1, z0, z1, screen, "ink", radius=1),
             line([(x0 + 4, 0, z1 - 2), (x0 + 24, 0, z1 - 2)], "white", 1.2),
             line([(x0 + 4, 0, z0 + 2), (x0 + 16, 0, z0 + 2)], "white", 1.2),
@@ -326,7 +324,7 @@ def closed_front():
 
 
 def vents():
-    return [line([(WIDTH, 30, z), (WIDTH, 84, z)], "mid", 1.3) for z in (34, 38, 42, 46, 50)]
+    return [line([(WIDTH, 36, z), (WIDTH, 80, z)], "mid", 1.8) for z in (36, 42, 48)]
 
 
 def printer_front():
