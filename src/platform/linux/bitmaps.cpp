@@ -2,23 +2,7 @@
 
 #include <algorithm>
 
-namespace {
-
-constexpr uintptr_t kStockHandle = 1;
-constexpr stm::Dib kOneBlackPixel = {1, 1, false, 1, stm::DibPlain, nullptr, 0, nullptr, nullptr};
-stm::Bitmap stockBitmap{{kStockHandle}, kOneBlackPixel, false};
-
-}  // namespace
-
 namespace stm {
-
-Bitmap* FindBitmap(const void* handle) {
-  return handle == StockBitmap() ? &stockBitmap : Find<Bitmap>(handle);
-}
-
-HGDIOBJ StockBitmap() {
-  return reinterpret_cast<HGDIOBJ>(kStockHandle);
-}
 
 Bytes BytesOf(HRSRC resource) {
   return {static_cast<const uint8_t*>(LockResource(LoadResource(nullptr, resource))),
@@ -44,14 +28,14 @@ HBITMAP STM_CALL LoadBitmapA(HINSTANCE module, const char* name) {
 
 BOOL STM_CALL DeleteObject(HGDIOBJ object) {
   stm::Bitmap* bitmap = stm::Find<stm::Bitmap>(object);
-  if (!bitmap || bitmap->selected) return object == stm::StockBitmap();
+  if (!bitmap || bitmap->selected) return 0;
   stm::ReleaseObject(bitmap);
   return 1;
 }
 
 int32_t STM_CALL GetObjectA(HGDIOBJ object, int32_t size, void* buffer) {
   constexpr auto needed = static_cast<int32_t>(sizeof(BITMAP));
-  const stm::Bitmap* bitmap = stm::FindBitmap(object);
+  const stm::Bitmap* bitmap = stm::Find<stm::Bitmap>(object);
   if (!bitmap) return 0;
   if (!buffer) return needed;
   if (size < needed) return 0;
@@ -66,7 +50,7 @@ int32_t STM_CALL GetObjectA(HGDIOBJ object, int32_t size, void* buffer) {
 }
 
 BOOL STM_CALL HostReadBitmap(HBITMAP handle, uint32_t* pixels, uint32_t count) {
-  const stm::Bitmap* bitmap = stm::FindBitmap(handle);
+  const stm::Bitmap* bitmap = stm::Find<stm::Bitmap>(handle);
   if (!bitmap || !pixels) return 0;
   const auto [width, height] = std::pair(bitmap->dib.width, bitmap->dib.height);
   if (static_cast<uint32_t>(width) * static_cast<uint32_t>(height) > count) return 0;

@@ -12,11 +12,6 @@ struct Bitmap : Object {
   bool selected;  // a device context holds it; it is not released meanwhile
 };
 
-// The bitmap with this handle, or null. A new memory context holds the stock bitmap of one black
-// pixel, which nobody can release.
-Bitmap* FindBitmap(const void* handle);
-HGDIOBJ StockBitmap();
-
 // The bytes of a resource, null and 0 when the module has none with this handle, or of this name.
 struct Bytes {
   const uint8_t* data;

@@ -14,9 +14,20 @@ struct MemoryContext : stm::Object {
   HGDIOBJ bitmap;
 };
 
-// The stock bitmap is everyone's: it is never marked.
-void MarkSelected(HGDIOBJ bitmap, bool selected) {
-  if (bitmap != stm::StockBitmap()) stm::FindBitmap(bitmap)->selected = selected;
+// What a new memory context holds. The stock bitmap is everyone's, so that it is never marked, and
+// known to contexts alone: to all others its handle is a foreign one.
+constexpr uintptr_t kStockHandle = 1;
+constexpr stm::Dib kOneBlackPixel = {1, 1, false, 1, stm::DibPlain, nullptr, 0, nullptr, nullptr};
+stm::Bitmap stockBitmap{{kStockHandle}, kOneBlackPixel, false};
+
+stm::Bitmap* FindSelectable(const void* handle) {
+  const bool stock = reinterpret_cast<uintptr_t>(handle) == kStockHandle;
+  return stock ? &stockBitmap : stm::Find<stm::Bitmap>(handle);
+}
+
+void MarkSelected(HGDIOBJ handle, bool selected) {
+  stm::Bitmap* bitmap = FindSelectable(handle);
+  if (bitmap != &stockBitmap) bitmap->selected = selected;
 }
 
 }  // namespace
@@ -39,7 +50,7 @@ int STM_CALL ReleaseDC(HWND window, HDC handle) {
 
 HDC STM_CALL CreateCompatibleDC(HDC) {
   auto* context = stm::NewObject<MemoryContext>();
-  if (context) context->bitmap = stm::StockBitmap();
+  if (context) context->bitmap = reinterpret_cast<HGDIOBJ>(kStockHandle);
   return stm::HandleOf<HDC>(context);
 }
 
@@ -53,7 +64,7 @@ BOOL STM_CALL DeleteDC(HDC handle) {
 
 HGDIOBJ STM_CALL SelectObject(HDC handle, HGDIOBJ object) {
   auto* context = stm::Find<MemoryContext>(handle);
-  const stm::Bitmap* bitmap = stm::FindBitmap(object);
+  const stm::Bitmap* bitmap = FindSelectable(object);
   if (!context || !bitmap) return nullptr;
   const HGDIOBJ previous = context->bitmap;
   if (object == previous) return previous;
@@ -70,7 +81,7 @@ BOOL STM_CALL BitBlt(HDC target, int x, int y, int width, int height, HDC source
   const auto* from = stm::Find<MemoryContext>(source);
   const auto* picture = to ? stm::Find<stm::Picture>(to->window) : nullptr;
   if (!picture || !from) return 0;
-  return stm::PaintDib(stm::FindBitmap(from->bitmap)->dib, picture->frame,
+  return stm::PaintDib(FindSelectable(from->bitmap)->dib, picture->frame,
                        {x, y, width, height, sourceX, sourceY}, rop);
 }
 }

@@ -45,6 +45,14 @@ LANGID EnvironmentLanguage() {
   return environmentLanguage;
 }
 
+LANGID ThreadTextLanguage() {
+  const LANGID language = GetThreadUILanguage();
+  for (const LocaleRow& row : LocaleTable) {
+    if (row.id == language) return language;
+  }
+  return kEnglish;
+}
+
 }  // namespace stm
 
 extern "C" {

@@ -17,4 +17,8 @@ const char* EnvironmentLocale();
 // Its language, as it was when the library was loaded.
 LANGID EnvironmentLanguage();
 
+// The language of the texts that follow the calling thread's: that one where the library has texts
+// in it, else English. Their code page is this language's, too.
+LANGID ThreadTextLanguage();
+
 }  // namespace stm

@@ -188,14 +188,13 @@ const Entry* FindOneOf(Languages entries, std::initializer_list<LANGID> language
   return nullptr;
 }
 
-// The languages to try, in order. A caller without a wish gets the thread's language, that of the
-// environment, English, and at last any; a caller with one gets it or a neutral one.
+// The languages to try, in order. A caller without a wish gets that of the thread's texts, English,
+// and at last any; a caller with one gets it or a neutral one.
 const Entry* ChooseLanguage(Languages entries, LANGID language) {
   constexpr LANGID kPrimaryMask = 0x3FF;
   const auto primary = static_cast<LANGID>(language & kPrimaryMask);
   if (primary != kNeutral) return FindOneOf(entries, {language, primary, kNeutral});
-  const Entry* entry =
-      FindOneOf(entries, {language, GetThreadUILanguage(), EnvironmentLanguage(), kEnglish});
+  const Entry* entry = FindOneOf(entries, {language, ThreadTextLanguage(), kEnglish});
   return entry ? entry : &entries.front();
 }
 

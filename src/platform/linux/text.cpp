@@ -12,13 +12,12 @@
 namespace stm {
 namespace {
 
-constexpr uint32_t kPrimaryLanguage = 0x3FF;  // bits of a language id, without the country's
-constexpr UINT kWesternPage = 1252;           // of every language that has no row
+constexpr UINT kWesternPage = 1252;  // of every language that has no row
 
 UINT PageOfLanguage(LANGID language) {
-  const uint32_t wanted = language == kNeutral ? GetThreadUILanguage() : language;
+  const LANGID wanted = language == kNeutral ? ThreadTextLanguage() : language;
   for (const LocaleRow& row : LocaleTable) {
-    if (((row.id ^ wanted) & kPrimaryLanguage) == 0) return row.codePage;
+    if (row.id == wanted) return row.codePage;
   }
   return kWesternPage;
 }

@@ -97,19 +97,23 @@ TEST_CASE("a blit takes the selected bitmap, the stock one of a black pixel at f
   CHECK(BitBlt(target, 0, 0, 12, 12, source, 0, 5, SRCCOPY));
   CHECK(std::memcmp(dialog.pixels(), &expected[5 * 12], 4 * sizeof(uint32_t)) == 0);
 
+  BITMAP size;
+  CHECK(GetObjectA(bitmap, sizeof size - 1, &size) == 0);
+  CHECK(GetObjectA(bitmap, 0, nullptr) == STM_EITHER(24, 32));
+  CHECK(GetObjectA(bitmap, sizeof size, &size) == STM_EITHER(24, 32));
+  CHECK(size.bmWidth == 12);
   CHECK(SelectObject(source, stock) == static_cast<HGDIOBJ>(bitmap));
   CHECK(SelectObject(other, bitmap) == stock);
   CHECK(DeleteDC(other));
   CHECK(DeleteObject(bitmap));
   CHECK_FALSE(DeleteObject(bitmap));
   CHECK_FALSE(SelectObject(source, bitmap));
-  BITMAP size;
-  CHECK(DeleteObject(stock));
-  CHECK(GetObjectA(stock, sizeof size - 1, &size) == 0);
-  CHECK(GetObjectA(stock, 0, nullptr) == STM_EITHER(24, 32));
-  CHECK(GetObjectA(stock, sizeof size, &size) == STM_EITHER(24, 32));
+  // The stock bitmap is no caller's.
+  uint32_t pixel;
+  CHECK_FALSE(DeleteObject(stock));
+  CHECK(GetObjectA(stock, sizeof size, &size) == 0);
+  CHECK_FALSE(HostReadBitmap(static_cast<HBITMAP>(stock), &pixel, 1));
   CHECK(SelectObject(source, stock) == stock);
-  CHECK(size.bmWidth == 1);
   CHECK(DeleteDC(source));
   CHECK(ReleaseDC(dialog.control(), target));
 }
