@@ -1,9 +1,8 @@
-// Names in the language chosen where the library has them, and text as the window takes it.
+// Names in the language chosen, where the library has them, as the window takes text.
 #pragma once
 
 #include <cstdint>
 #include <string>
-#include <string_view>
 
 #include "words/user_language.h"
 
@@ -16,8 +15,5 @@ std::wstring PaperName(uint32_t code, const stmon::Language& language);
 std::wstring OptionName(uint32_t code, const stmon::Language& language);
 
 bool IsJapanese(const stmon::Language& language);
-
-std::wstring Wide(std::string_view utf8);
-std::string Utf8(std::wstring_view wide);
 
 }  // namespace stmonw

@@ -3,12 +3,15 @@
 #include <algorithm>
 
 #include "picture/picture.h"
+#include "system/wide_text.h"
 #include "words/clock.h"
 #include "words/labels.h"
 #include "words/safe_text.h"
 
 namespace stmonw {
 namespace {
+
+using stmon::Wide;
 
 constexpr uint32_t kPaperLevelIcon = 1;  // kind of PatGetIconName
 constexpr uint32_t kFullTray = 100;      // per cent
@@ -132,7 +135,7 @@ void Translate(Knowledge& knowledge, const stmon::Language& language) {
   }
 }
 
-View MakeView(const Knowledge& knowledge, const stmon::Language& language) {
+View MakeView(const Knowledge& knowledge) {
   View view;
   if (!knowledge.latest) {
     view.shortText = L"Connecting...";
@@ -146,6 +149,7 @@ View MakeView(const Knowledge& knowledge, const stmon::Language& language) {
   view.others = OtherConditions(latest);
   if (!knowledge.lastGood) return view;
   const stmon::Snapshot& good = *knowledge.lastGood;
+  const stmon::Language& language = *good.source.language;
   for (const stmon::Tray& tray : good.trays)
     view.trays.push_back(LineOf(tray, good.currentTray == tray.id, language));
   view.equipment = Equipment(good, language);

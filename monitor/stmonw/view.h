@@ -44,7 +44,8 @@ struct View {
   std::vector<std::wstring> equipment;
 };
 
-View MakeView(const Knowledge& knowledge, const stmon::Language& language);
+// In the language that the snapshots were taken in.
+View MakeView(const Knowledge& knowledge);
 
 // A shallow copy of the record that decides picture and texts: the last good one, marked when the
 // printer has ceased to answer. Lives no longer than `knowledge` stays as it is.

@@ -12,11 +12,15 @@
 #include "stmonw/printer_picture.h"
 #include "stmonw/resource.h"
 #include "stmonw/view.h"
+#include "system/wide_text.h"
 #include "wire/full_query.h"
 #include "words/safe_text.h"
 
 namespace stmonw {
 namespace {
+
+using stmon::Utf8;
+using stmon::Wide;
 
 constexpr UINT kAnswerMessage = WM_APP;
 constexpr UINT_PTR kAgeTimer = 1;
@@ -152,7 +156,7 @@ void ShowPicture(Window& window) {
 
 // Only what has changed is touched.
 void Show(Window& window) {
-  View view = MakeView(window.knowledge, *window.settings.language);
+  View view = MakeView(window.knowledge);
   std::swap(view, window.view);
   const View& now = window.view;
   SetText(window, IDC_SHORT, now.shortText);

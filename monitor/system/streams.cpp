@@ -9,6 +9,8 @@
 #include <windows.h>
 // after windows.h
 #include <shellapi.h>
+
+#include "system/wide_text.h"
 #endif
 
 namespace stmon {
@@ -20,13 +22,6 @@ UINT old_code_page = 0;
 
 void RestoreCodePage() {
   SetConsoleOutputCP(old_code_page);
-}
-
-std::string Utf8(const wchar_t* wide) {
-  const int size = WideCharToMultiByte(CP_UTF8, 0, wide, -1, nullptr, 0, nullptr, nullptr);
-  std::string text(size > 0 ? size - 1 : 0, '\0');
-  if (size > 1) WideCharToMultiByte(CP_UTF8, 0, wide, -1, text.data(), size, nullptr, nullptr);
-  return text;
 }
 
 }  // namespace
