@@ -8,6 +8,7 @@
 namespace stmon {
 namespace {
 
+// Each pixel is the mean of those that it stands for, so that thin lines do not vanish.
 Image Scaled(const Image& image, int columns) {
   if (columns <= 0 || columns >= image.width) return image;
   Image small{columns, std::max(1, image.height * columns / image.width), {}};
@@ -87,6 +88,7 @@ std::string HalfBlocks(const Image& image, int columns, bool true_colour) {
       const uint32_t lower = small.pixels[at + static_cast<size_t>(small.width)];
       const std::string colours = "\x1B[38;" + ColourCode(upper, true_colour) + ";48;" +
                                   ColourCode(lower, true_colour) + "m";
+      // Neighbours often have the same colours, which take more bytes than the block itself.
       if (colours != before) text += colours;
       before = colours;
       text += "\xE2\x96\x80";  // upper half block

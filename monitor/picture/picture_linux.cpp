@@ -14,6 +14,7 @@ constexpr uint32_t kOpaque = 0xFF000000;
 
 }  // namespace
 
+// The library draws the list that it composed last, so that the argument is not needed here.
 Image DrawParts(const PrnBitmap&) {
   Image image;
   const HWND dialog = HostCreateDialog();

@@ -61,6 +61,7 @@ Json IdentityJson(const Identity& identity) {
   return json;
 }
 
+// What the printer did not tell has no key: nobody shall take a default for its answer.
 void AddState(Json& json, const Snapshot& snapshot) {
   json["online"] = snapshot.online;
   json["printer_state"] = StateWord(snapshot.conditions, snapshot.online);

@@ -79,6 +79,7 @@ struct Group {
 };
 
 constexpr Group kGroups[] = {
+    //  name   the library's group bits  parts
     {"status", GroupStatusList, StatusParts},                //
     {"state", GroupStatus, StateParts},                      //
     {"trays", GroupTrays, TrayParts},                        //

@@ -13,12 +13,14 @@ using asio::ip::tcp;
 
 constexpr size_t kLongestQuery = 1024;  // bytes; all blocks together take 41
 constexpr size_t kFloodPiece = 16384;   // bytes sent at once
+
 // What another kind of server might say, with bytes that would clear a terminal.
 constexpr std::string_view kGarbage("HTTP/1.0 400 Bad Request\r\n\x1B[2J\x07\xFF\0 and so on\r\n",
                                     45);
 
 }  // namespace
 
+// One thread runs all its connections, and it alone touches the scenario: nothing needs a lock.
 struct SimulatedPrinter {
   explicit SimulatedPrinter(const Scenario& told) : scenario(told), acceptor(context) {}
 
@@ -33,6 +35,7 @@ struct SimulatedPrinter {
 
 namespace {
 
+// A connection. The operation in flight keeps it alive; one that starts no other closes it.
 struct Session {
   Session(SimulatedPrinter& owner, tcp::socket accepted)
       : printer(owner), socket(std::move(accepted)), timer(owner.context) {}
@@ -68,6 +71,7 @@ void SendReply(const SessionPtr& session, bool close) {
                     });
 }
 
+// A byte a packet, so that the reader gets the reply in as many pieces as can be.
 void SendSlowly(const SessionPtr& session) {
   if (session->sent == session->reply.size()) return ReadQuery(session);
   asio::async_write(session->socket, asio::buffer(&session->reply[session->sent], 1),
@@ -161,7 +165,8 @@ bool Listen(tcp::acceptor& acceptor, uint16_t port, asio::error_code& error) {
   const tcp::endpoint endpoint(asio::ip::address_v4::loopback(), port);
   acceptor.open(endpoint.protocol(), error);
 #ifndef _WIN32
-  // Elsewhere the option means that a second program may take the port.
+  // Lets the port be used again right after another program has ended. On Windows the option would
+  // let a second program take a port that is in use.
   if (!error) acceptor.set_option(tcp::acceptor::reuse_address(true), error);
 #endif
   if (!error) acceptor.bind(endpoint, error);

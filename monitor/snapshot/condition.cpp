@@ -20,8 +20,8 @@ Condition LookUp(uint32_t code) {
   return condition;
 }
 
-// The place of the code's group, from 1; that of the first place after all groups for a code
-// without one.
+// The number of the code's group, counted from 1. A code without a group gets the number after the
+// last.
 uint32_t RankOf(uint32_t code, const std::vector<std::vector<uint32_t>>& groups) {
   const auto group = std::find_if(groups.begin(), groups.end(), [&](const auto& codes) {
     return std::find(codes.begin(), codes.end(), code) != codes.end();
@@ -33,7 +33,7 @@ uint32_t RankOf(uint32_t code, const std::vector<std::vector<uint32_t>>& groups)
 
 std::vector<Condition> ListConditions(const std::vector<uint32_t>& codes) {
   std::vector<Condition> conditions;
-  for (const uint32_t code : codes) {
+  for (const uint32_t code : codes) {  // a printer may list one twice
     if (!Lists(conditions, code)) conditions.push_back(LookUp(code));
   }
   std::vector<uint32_t> distinct;

@@ -49,8 +49,9 @@ void ReadDeviceId(Snapshot& snapshot) {
   identity.languages = std::move(fields.languages);
 }
 
-// Result: the blocks of the reply. Only whole ones go to the library: of a block that was cut off,
-// nobody knows what it meant to say.
+// Fills both records: whichever answers the questions, two polls are compared by the list-based
+// one. Result: the blocks of the reply. Only whole ones go to the library: of a block that was cut
+// off, nobody knows what it meant to say.
 std::vector<Block> FillRecords(Snapshot& snapshot) {
   const Outcome outcome = snapshot.exchange.outcome;
   if (outcome != Outcome::Answered && outcome != Outcome::CutOff) return {};
@@ -118,7 +119,8 @@ void TakeConditionTexts(Snapshot& snapshot) {
   }
 }
 
-// A mild condition's headline is "ready" for an offline printer as well; that of code 0 tells.
+// The library's short text of a mild condition reads "ready" for an offline printer as well. That
+// of code 0 reads "offline" then.
 std::string OfflineText(const Snapshot& snapshot) {
   StatusSample sample(0, false);
   sample.list.online = 0;

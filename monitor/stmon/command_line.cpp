@@ -79,7 +79,7 @@ int ParseCommandLine(int count, char** values, Options& options) {
   auto arguments = Arguments(count, values);
   try {
     if (!arguments.empty()) arguments.erase(arguments.begin());
-    std::reverse(arguments.begin(), arguments.end());
+    std::reverse(arguments.begin(), arguments.end());  // parse() takes them from the back
     app.parse(std::move(arguments));
   } catch (const CLI::CallForHelp&) {
     Print(app.help());

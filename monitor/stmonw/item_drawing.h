@@ -10,7 +10,7 @@
 
 namespace stmonw {
 
-// A picture's size on this screen: drawn for 96 dots per inch.
+// Pixels on this screen for a length that was drawn for 96 dots per inch.
 int Scaled(int pixels);
 
 void DrawPictureItem(const DRAWITEMSTRUCT& item, HBITMAP picture);

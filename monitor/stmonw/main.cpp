@@ -44,7 +44,7 @@ std::string Parse(CommandLine& line, int& status) {
   auto arguments = stmon::Arguments(0, nullptr);
   try {
     if (!arguments.empty()) arguments.erase(arguments.begin());
-    std::reverse(arguments.begin(), arguments.end());
+    std::reverse(arguments.begin(), arguments.end());  // parse() takes them from the back
     app.parse(std::move(arguments));
   } catch (const CLI::CallForHelp&) {
     return app.help();

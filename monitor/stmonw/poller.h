@@ -1,4 +1,4 @@
-// Polls a printer off the window's thread: one query at a time, and slower ones while nothing
+// Polls a printer off the window's thread: one query at a time, with longer pauses while nothing
 // answers.
 #pragma once
 

@@ -29,8 +29,8 @@ HBITMAP Draw(HWND dialog, int control_id, bool& drawn) {
 }  // namespace
 
 HWND CreateEasel(HINSTANCE instance) {
-  // The system keeps the pixels of a layered window, wherever it stands. It is shown while it is
-  // drawn into only, beyond the left edge of all screens.
+  // The system keeps the pixels of a layered window, wherever it stands. It is shown only
+  // while it is drawn into, beyond the left edge of all screens.
   const int left = GetSystemMetrics(SM_XVIRTUALSCREEN) - 2 * kPictureWidth;
   HWND easel =
       CreateWindowExW(WS_EX_LAYERED | WS_EX_TOOLWINDOW | WS_EX_NOACTIVATE, L"STATIC", L"", WS_POPUP,
@@ -55,7 +55,7 @@ HBITMAP DrawPicture(HWND easel, HWND dialog, int control_id) {
   HBITMAP bitmap = Draw(easel, kCanvasId, drawn);
   ShowWindow(easel, SW_HIDE);
   if (drawn) return bitmap;
-  // One look at the layers beats no picture.
+  // Layers that come one by one before everybody's eyes are better than no picture.
   DeleteObject(bitmap);
   return Draw(dialog, control_id, drawn);
 }

@@ -436,7 +436,7 @@ bool RunWindow(HINSTANCE instance, int show, const Settings& settings) {
     TranslateMessage(&message);
     DispatchMessageW(&message);
   }
-  // A query in flight is not waited for longer than a user would: the process takes it along.
+  // A query in flight is waited for as long as a user would wait; then it ends with the process.
   if (window.poller) WaitForEnd(*window.poller, std::chrono::milliseconds(500));
   return true;
 }

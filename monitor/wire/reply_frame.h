@@ -16,7 +16,7 @@ namespace stmon {
 
 constexpr char kEsc = 0x1B;
 
-// The state between two bytes, so that a reply that trickles in is looked at once.
+// The state between two bytes, so that each byte of a reply that trickles in is looked at once.
 struct ReplyScanner {
   enum class State { AtBlock, AfterEsc, InStatus, InStatusAfterEsc, InBlock, Lost, LostAfterEsc };
   State state = State::AtBlock;

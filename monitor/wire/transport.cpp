@@ -64,7 +64,7 @@ bool Finish(asio::io_context& context, tcp::socket& socket, Clock::time_point de
   return false;
 }
 
-// Closing the connection while bytes are on their way shows as any of these.
+// A connection that the other side breaks off shows as any of these, by system and moment.
 bool IsReset(const asio::error_code& error) {
   return error == asio::error::connection_reset || error == asio::error::connection_aborted ||
          error == asio::error::broken_pipe;

@@ -77,7 +77,7 @@ Texts AskTexts(const PrnInfoEx& record, const Language& language) {
 
 Texts AskTexts(const PrnInfo& info, const Language& language, uint32_t dominant) {
   const ThreadLanguage before = SetThreadLanguage({language.id, language.id});
-  PrnInfo copy = info;  // the detail text is asked with a record that it may write to
+  PrnInfo copy = info;  // the question for the detail text may write to its record
   char buffer[kSize] = "";
   Texts texts;
   if (PatGetSimpleString(&copy, buffer, kSize) == 1) texts.brief = Tidy(ToUtf8(buffer, CP_ACP));

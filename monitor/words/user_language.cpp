@@ -26,7 +26,7 @@ uint32_t SystemCodePage(const Language&) {
   return GetACP();
 }
 #else
-// That of the environment: nobody sets another for a thread but while it asks for texts.
+// The library's reading of the environment. AskTexts sets another one only while it asks.
 LANGID SystemLanguage() {
   return GetThreadUILanguage();
 }
