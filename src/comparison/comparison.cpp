@@ -40,11 +40,9 @@ bool AgreeItems(const Node* first, const Node* second, uint32_t count, Agree agr
 
 // Only what the user would be told: less urgent statuses do not count.
 bool StatusesAgree(const PrnInfoEx& first, const PrnInfoEx& second) {
-  uint32_t codes1[16];
-  uint32_t codes2[16];
-  const uint32_t count1 = GetDominantStatusList_Ex(&first, codes1, 16);
-  const uint32_t count2 = GetDominantStatusList_Ex(&second, codes2, 16);
-  return std::equal(codes1, codes1 + count1, codes2, codes2 + count2);
+  const DominantStatuses one = GetDominantStatuses(first);
+  const DominantStatuses other = GetDominantStatuses(second);
+  return std::equal(one.codes, one.codes + one.count, other.codes, other.codes + other.count);
 }
 
 bool StatesAgree(const PrnInfoEx& first, const PrnInfoEx& second) {

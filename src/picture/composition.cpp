@@ -1,13 +1,15 @@
-// Part lists of the printer picture. A list reads: base picture, the overlays in the order in which
-// the rules below collect them, the overlays of the status's own row.
+// Part lists of the printer picture. A list reads: base picture, the overlays that the rules below
+// add for the record, the overlays of the status's own row.
 #include <algorithm>
 #include <cstring>
 
 #include "picture/composition_tables.h"
 #include "picture/latest_list.h"
 #include "records/item_list.h"
+#include "records/row_index.h"
 #include "status/dominant_status.h"
 #include "status/last_error.h"
+#include "status/status_codes.h"
 #include "status/trays.h"
 #include "stmdata/stmdata.h"
 
@@ -15,287 +17,141 @@ namespace stm {
 namespace {
 
 constexpr uint32_t kLargestList = 64;
-constexpr uint32_t kMostStatuses = 16;
 constexpr uint32_t kComposed = 64;  // the result of a success, whatever the list's size
-constexpr uint32_t kTray2 = 4;
-constexpr uint32_t kTray3 = 5;
-constexpr uint32_t kEmptyLevel = 1;  // a tray with this paper level or less holds no paper
 
-// ---- Overlays collected -----------------------------------------------------------------------
+// ---- The list that is written -------------------------------------------------------------------
 
-// `codes` ends at `capacity`; what does not fit is dropped.
-struct WorkList {
-  uint8_t codes[kLargestList];
-  uint32_t count;
+// The caller's list, which ends at `capacity`: what does not fit is dropped.
+struct PartCodes {
+  uint8_t* codes;
   uint32_t capacity;
-};
-
-void Append(WorkList& work, uint8_t code) {
-  if (code != 0 && work.count < work.capacity) work.codes[work.count++] = code;
-}
-
-void Append(WorkList& work, const Overlay& overlay) {
-  Append(work, overlay.mask);
-  Append(work, overlay.image);
-}
-
-void AppendGroup(WorkList& work, const uint8_t (&group)[8]) {
-  for (uint8_t code : group)
-    Append(work, code);
-}
-
-// Result: whether the status is of a toner, even when the list was full.
-bool ApplyTonerRule(WorkList& work, uint32_t status) {
-  switch (status) {
-    case 69:
-    case 73:
-      Append(work, kCyanToner);
-      return true;
-    case 70:
-    case 74:
-      Append(work, kMagentaToner);
-      return true;
-    case 71:
-    case 75:
-      Append(work, kYellowToner);
-      return true;
-    case 72:
-    case 76:
-      Append(work, kBlackToner);
-      return true;
-    default:
-      return false;
-  }
-}
-
-// Result: whether the tray is one of those in the picture, even when the list was full.
-bool ApplyTrayRule(WorkList& work, uint32_t tray) {
-  switch (tray) {
-    case 3:
-      Append(work, kTray1Paper);
-      return true;
-    case 4:
-      Append(work, kTray2Paper);
-      return true;
-    case 5:
-      Append(work, kTray3Paper);
-      return true;
-    default:
-      return false;
-  }
-}
-
-void AppendTonerArea(WorkList& work, uint32_t picture) {
-  if (picture >= 69 && picture <= 76) Append(work, kTonerArea);
-}
-
-// ---- Statuses ---------------------------------------------------------------------------------
-
-struct Statuses {
-  uint32_t codes[kMostStatuses];
   uint32_t count;
-  uint32_t picture;  // the status whose row is drawn
 };
 
-bool HasSeveralMarker(const PrnInfo& info) {
-  return (info.statusCode & 0xFF) == StatusSeveralMarker;
+void Append(PartCodes& parts, uint8_t code) {
+  if (code != 0 && parts.count < parts.capacity) parts.codes[parts.count++] = code;
 }
 
-Statuses StatusesOf(const PrnInfo& info) {
-  Statuses statuses{};
-  if (HasSeveralMarker(info) && info.statusCount != 0) {
-    statuses.count = GetDominantStatusList(&info, statuses.codes, kMostStatuses);
+void Append(PartCodes& parts, const Overlay& overlay) {
+  Append(parts, overlay.mask);
+  Append(parts, overlay.image);
+}
+
+template <size_t Count>
+void Append(PartCodes& parts, const Overlay (&overlays)[Count]) {
+  for (const Overlay& overlay : overlays)
+    Append(parts, overlay);
+}
+
+// Result: whether the code has an overlay, even when the list was full.
+template <const auto& kTable>
+bool Mark(PartCodes& parts, uint32_t code) {
+  const Overlay& overlay = RowOf<kTable, &OverlayRow::code>(code).overlay;
+  Append(parts, overlay);
+  return overlay.image != 0;
+}
+
+// ---- Rules of both records ----------------------------------------------------------------------
+
+void AppendTonerArea(PartCodes& parts, uint32_t picture) {
+  if (RowOf<kTonerOverlays, &OverlayRow::code>(picture).overlay.image != 0)
+    Append(parts, kTonerArea);
+}
+
+// Marks the trays that say to have this paper, then those that have run down. Result: whether the
+// picture shows any of them.
+bool MarkTraysOf(PartCodes& parts, uint32_t paperCode, TrayView trays, LevelView levels) {
+  bool marked = false;
+  TrayView left = trays;
+  for (TrayPaper tray; TakeNext(&left, &tray);) {
+    if (tray.paperCode == paperCode) marked |= Mark<kTrayOverlays>(parts, tray.trayId);
+  }
+  for (TrayLevel tray; TakeNext(&levels, &tray);) {
+    if (HasRunDown(tray, trays)) marked |= Mark<kTrayOverlays>(parts, tray.trayId);
+  }
+  return marked;
+}
+
+// ---- Rules of the flat record -------------------------------------------------------------------
+
+bool MarkStatus(PartCodes& parts, const PrnInfo& info, uint32_t code) {
+  if (code == StatusTrayMisfeed) return Mark<kTrayOverlays>(parts, info.currentTray);
+  return Mark<kTonerOverlays>(parts, code);
+}
+
+bool MarkStatuses(PartCodes& parts, const PrnInfo& info, const DominantStatuses& statuses) {
+  bool marked = false;
+  for (uint32_t i = 0; i < statuses.count; ++i)
+    marked |= MarkStatus(parts, info, statuses.codes[i]);
+  return marked;
+}
+
+bool MarkTrays(PartCodes& parts, const PrnInfo& info, uint32_t picture) {
+  for (const TrayRule& rule : kTrayRules) {
+    if (picture == rule.status) return Mark<kTrayOverlays>(parts, info.currentTray);
+    const LevelView levels = rule.flatLevels ? ViewLevels(info) : LevelView{};
+    if (picture == StatusReady && MarkTraysOf(parts, rule.paperCode, ViewTrays(info), levels))
+      return true;
+  }
+  return false;
+}
+
+void ApplyRules(PartCodes& parts, const PrnInfo& info, const DominantStatuses& statuses) {
+  const uint32_t picture = statuses.codes[0];
+  const TrayView trays = ViewTrays(info);
+  const FlatUnitsRow& units = RowOf<kFlatUnits, &FlatUnitsRow::status>(picture);
+  if (IsTrayListed(trays, Tray2)) Append(parts, units.tray2);
+  if (IsTrayListed(trays, Tray3)) Append(parts, units.tray3);
+  AppendTonerArea(parts, picture);
+  if (HasSeveralStatuses(info) && MarkStatuses(parts, info, statuses)) return;
+  if (MarkTrays(parts, info, picture)) return;
+  // The record's own code, even where the picture is of "no response".
+  MarkStatus(parts, info, info.statusCode);
+}
+
+// ---- Rules of the list-based record -------------------------------------------------------------
+
+void MarkStatuses(PartCodes& parts, const DominantStatuses& statuses) {
+  for (uint32_t i = 0; i < statuses.count; ++i) {
+    Mark<kTonerOverlays>(parts, statuses.codes[i]);
+    Mark<kDuplexOverlays>(parts, statuses.codes[i]);
+  }
+}
+
+// Without a tray in use the picture of a rule's status marks what a ready printer's does.
+void MarkTrays(PartCodes& parts, const PrnInfoEx& info, uint32_t picture) {
+  for (const TrayRule& rule : kTrayRules) {
+    if (picture == rule.status && info.currentTray != 0) {
+      Mark<kTrayOverlays>(parts, info.currentTray);
+      return;
+    }
+    const bool asksAll = picture == rule.status || (picture == StatusReady && info.online);
+    if (asksAll && MarkTraysOf(parts, rule.paperCode, ViewTrays(info), ViewLevels(info))) return;
+  }
+}
+
+void ApplyRules(PartCodes& parts, const PrnInfoEx& info, const DominantStatuses& statuses) {
+  const uint32_t picture = statuses.codes[0];
+  const bool hasTray2 = IsTrayListed(ViewTrays(info), Tray2);
+  const bool hasDuplexUnit = FindItem(info.optionList, OptionDuplex);
+  const ListUnitsRow& units = RowOf<kListUnits, &ListUnitsRow::status>(picture);
+  if (hasTray2) Append(parts, units.tray2);
+  if (hasDuplexUnit) Append(parts, units.duplexUnit);
+  AppendTonerArea(parts, picture);
+  MarkStatuses(parts, statuses);
+  MarkTrays(parts, info, picture);
+  if (hasDuplexUnit) {
+    const RearViewRow& rear = RowOf<kRearWithDuplexUnit, &RearViewRow::status>(picture);
+    if (IsTrayListed(ViewTrays(info), Tray3)) Append(parts, rear.before);
+    Append(parts, rear.after);
   } else {
-    statuses.count = 1;
-    statuses.codes[0] = info.statusCode;
-    if (info.noResponse) {
-      statuses.codes[0] = StatusNoResponse;
-    } else if (info.printing && info.statusCode <= 23) {
-      statuses.codes[0] = StatusPrinting;
-    }
-  }
-  statuses.picture = statuses.count ? statuses.codes[0] : 0;
-  return statuses;
-}
-
-Statuses StatusesOf(const PrnInfoEx& info) {
-  Statuses statuses{};
-  statuses.count = GetDominantStatusList_Ex(&info, statuses.codes, kMostStatuses);
-  statuses.picture = statuses.count ? statuses.codes[0] : 0;
-  return statuses;
-}
-
-// ---- Rules of the flat record -----------------------------------------------------------------
-
-bool MarkSeveral(WorkList& work, const PrnInfo& info, const Statuses& statuses) {
-  bool marked = false;
-  for (uint32_t i = 0; i < statuses.count; ++i) {
-    marked |= ApplyTonerRule(work, statuses.codes[i]);
-    if (statuses.codes[i] == 44) marked |= ApplyTrayRule(work, info.currentTray);
-  }
-  return marked;
-}
-
-bool MarkTraysNotPlaced(WorkList& work, const PrnInfo& info, uint32_t picture) {
-  if (picture == 33) return ApplyTrayRule(work, info.currentTray);
-  if (picture != 0) return false;
-  bool marked = false;
-  const uint32_t count = std::min<uint32_t>(info.trayCount, std::size(info.trayList));
-  for (uint32_t i = 0; i < count; ++i) {
-    const TrayPaper& tray = info.trayList[i];
-    if (tray.paperCode == PaperTrayMissing) marked |= ApplyTrayRule(work, tray.trayId);
-  }
-  return marked;
-}
-
-// The bypass tray needs no test of its own: the tray rule does not know it.
-bool MarkTraysWithoutPaper(WorkList& work, const PrnInfo& info, uint32_t picture) {
-  if (picture == 32) return ApplyTrayRule(work, info.currentTray);
-  if (picture != 0) return false;
-  bool marked = false;
-  const uint32_t count = std::min<uint32_t>(info.trayCount, std::size(info.trayList));
-  for (uint32_t i = 0; i < count; ++i) {
-    const TrayPaper& tray = info.trayList[i];
-    if (tray.paperCode == PaperNone) marked |= ApplyTrayRule(work, tray.trayId);
-  }
-  const uint32_t levels = std::min<uint32_t>(info.trayLevelCount, std::size(info.trayLevelList));
-  for (uint32_t i = 0; i < levels; ++i) {
-    const TrayLevel& tray = info.trayLevelList[i];
-    if (tray.paperLevel <= kEmptyLevel && IsTrayPresent(&info, tray.trayId))
-      marked |= ApplyTrayRule(work, tray.trayId);
-  }
-  return marked;
-}
-
-void CollectOverlays(WorkList& work, const PrnInfo& info, const Statuses& statuses) {
-  const uint32_t picture = statuses.picture;
-  const bool fromBack = picture == 39 || picture == 45;
-  if (HasTray(&info, kTray2)) Append(work, fromBack ? kTray2Back : kTray2Front);
-  if (HasTray(&info, kTray3)) Append(work, fromBack ? kTray3Back : kTray3Front);
-  AppendTonerArea(work, picture);
-  if (HasSeveralMarker(info) && MarkSeveral(work, info, statuses)) return;
-  if (MarkTraysNotPlaced(work, info, picture)) return;
-  if (MarkTraysWithoutPaper(work, info, picture)) return;
-  // The record's own code from here on: it counts even when no response is what is shown.
-  if (info.statusCode == 44) ApplyTrayRule(work, info.currentTray);
-  ApplyTonerRule(work, info.statusCode);
-}
-
-// ---- Rules of the list-based record -----------------------------------------------------------
-
-bool HasDuplexUnit(const PrnInfoEx& info) {
-  return FindItem(info.optionList, OptionDuplex) != nullptr;
-}
-
-// Marks the tray in use when the picture is of `status`, else the trays whose paper code is
-// `paperCode` and then those in place that are empty.
-bool MarkTrays(WorkList& work, const PrnInfoEx& info, uint32_t picture, uint32_t status,
-               uint32_t paperCode) {
-  if (picture == status && info.currentTray != 0) return ApplyTrayRule(work, info.currentTray);
-  bool marked = false;
-  const Items trays(info.trayList, info.trayCount);
-  for (const TrayNode& tray : trays) {
-    if (tray.paperCode == paperCode) marked |= ApplyTrayRule(work, tray.trayId);
-  }
-  for (const TrayNode& tray : trays) {
-    if (tray.paperLevel <= kEmptyLevel && IsTrayPresent_Ex(&info, tray.trayId))
-      marked |= ApplyTrayRule(work, tray.trayId);
-  }
-  return marked;
-}
-
-bool MarkTraysNotPlaced(WorkList& work, const PrnInfoEx& info, uint32_t picture) {
-  return MarkTrays(work, info, picture, 33, PaperTrayMissing);
-}
-
-bool MarkTraysWithoutPaper(WorkList& work, const PrnInfoEx& info, uint32_t picture) {
-  return MarkTrays(work, info, picture, 32, PaperNone);
-}
-
-void MarkStatuses(WorkList& work, const Statuses& statuses) {
-  for (uint32_t i = 0; i < statuses.count; ++i) {
-    ApplyTonerRule(work, statuses.codes[i]);
-    if (statuses.codes[i] == 96) Append(work, kDuplexUnit1);
-    if (statuses.codes[i] == 97) Append(work, kDuplexUnit2);
+    const RearViewRow& rear = RowOf<kRearWithoutDuplexUnit, &RearViewRow::status>(picture);
+    Append(parts, rear.before);
+    if (hasTray2) Append(parts, rear.after);
   }
 }
 
-void AppendRearView(WorkList& work, const PrnInfoEx& info, uint32_t picture) {
-  const RearViewRow* row = kRearViewTable;
-  while (row->status != picture && row->status != kPictureTableEnd)
-    ++row;
-  if (HasDuplexUnit(info)) {
-    if (picture == 93) {
-      AppendGroup(work, row->tray2);
-    } else {
-      if (HasTray_Ex(&info, kTray3)) AppendGroup(work, row->tray3);
-      AppendGroup(work, row->duplexUnit);
-    }
-  } else if (picture != 91) {
-    AppendGroup(work, row->noDuplex);
-    if (HasTray_Ex(&info, kTray2)) AppendGroup(work, row->tray2);
-  }
-}
-
-bool IsSeenFromFront(uint32_t picture) {
-  constexpr uint32_t kOthers[] = {39, 45, 89, 90, 91, 94, 96, 97};
-  return std::find(std::begin(kOthers), std::end(kOthers), picture) == std::end(kOthers);
-}
-
-void CollectOverlays(WorkList& work, const PrnInfoEx& info, const Statuses& statuses) {
-  const uint32_t picture = statuses.picture;
-  if (IsSeenFromFront(picture) && HasTray_Ex(&info, kTray2)) Append(work, kTray2Front);
-  AppendTonerArea(work, picture);
-  switch (picture) {
-    case 0:
-      if (!info.online) {
-        MarkStatuses(work, statuses);
-      } else if (!MarkTraysNotPlaced(work, info, picture)) {
-        MarkTraysWithoutPaper(work, info, picture);
-      }
-      break;
-    case 33:
-      MarkTraysNotPlaced(work, info, picture);
-      break;
-    case 32:
-      MarkTraysWithoutPaper(work, info, picture);
-      break;
-    case 44:
-      if (HasTray_Ex(&info, kTray2)) Append(work, kTray2Paper);
-      break;
-    case 96:
-    case 97:
-      if (HasDuplexUnit(info)) Append(work, kDuplexBack);
-      MarkStatuses(work, statuses);
-      break;
-    default:
-      MarkStatuses(work, statuses);
-      break;
-  }
-  AppendRearView(work, info, picture);
-}
-
-// ---- Both -------------------------------------------------------------------------------------
-
-const PictureRow& FindPictureRow(uint32_t status) {
-  const PictureRow* row = kPictureTable;
-  while (row->status != status && row->status != kPictureTableEnd)
-    ++row;
-  return *row;
-}
-
-void Merge(const PictureRow& row, const WorkList& work, uint8_t* partCodes) {
-  uint32_t count = 0;
-  const auto add = [&](uint8_t code) {
-    if (count < work.capacity) partCodes[count++] = code;
-  };
-  const uint8_t* rest = row.codes;
-  if (*rest == kBaseFront || *rest == kBaseBack || *rest == kBaseDuplexBack) add(*rest++);
-  for (uint32_t i = 0; i < work.count; ++i)
-    add(work.codes[i]);
-  while (*rest != 0)
-    add(*rest++);
-}
+// ---- Both ---------------------------------------------------------------------------------------
 
 // Null lists fail like a list that is too short: nowhere to put a picture.
 template <class Record>
@@ -303,15 +159,19 @@ uint32_t Compose(const Record* info, uint8_t* partCodes, uint8_t* extraPartCodes
   if (!info) return FailWith(PatErrorNotFound);
   if (size < static_cast<int32_t>(kPartListSize) || !partCodes || !extraPartCodes)
     return FailWith(PatErrorPicture);
-  WorkList work{};
-  work.capacity = std::min(static_cast<uint32_t>(size), kLargestList);
-  std::memset(partCodes, 0, work.capacity);
-  std::memset(extraPartCodes, 0, work.capacity);
-  const Statuses statuses = StatusesOf(*info);
-  CollectOverlays(work, *info, statuses);
-  Merge(FindPictureRow(statuses.picture), work, partCodes);
+  const uint32_t capacity = std::min(static_cast<uint32_t>(size), kLargestList);
+  std::memset(partCodes, 0, capacity);
+  std::memset(extraPartCodes, 0, capacity);
+
+  const DominantStatuses statuses = StatusesOf(*info);
+  const PictureRow& row = RowOf<kPictureTable, &PictureRow::status>(statuses.codes[0]);
+  PartCodes parts{partCodes, capacity, 0};
+  Append(parts, row.base);
+  ApplyRules(parts, *info, statuses);
+  Append(parts, row.overlays);
+
   PartList list;
-  std::memcpy(list.data(), partCodes, list.size());
+  std::copy_n(partCodes, list.size(), list.begin());
   StoreLatestList(list);
   return kComposed;
 }
@@ -324,7 +184,6 @@ uint32_t ComposeBitmap(const Record* info, PrnBitmap* bitmap) {
 }
 
 }  // namespace
-
 }  // namespace stm
 
 uint32_t STM_CALL PatGetPrnBitmapEx(const PrnInfo* info, uint8_t* partCodes,

@@ -25,64 +25,69 @@ uint32_t ChooseOne(StatusView view) {
   return kPriorityTable[best].code;
 }
 
-// Rows that share the best priority seen so far, ascending.
-struct TieSet {
-  uint32_t rows[kMostDominant];
-  uint32_t count;
-  uint32_t priority;
-};
-
-// False when the set is full.
-bool AddRow(TieSet* ties, uint32_t row) {
-  if (ties->count == kMostDominant) return false;
-  uint32_t place = ties->count++;
-  for (; place > 0 && ties->rows[place - 1] > row; --place)
-    ties->rows[place] = ties->rows[place - 1];
-  ties->rows[place] = row;
+// Puts the row at its place; false when there is no room.
+bool AddRow(DominantStatuses* rows, uint32_t row) {
+  if (rows->count == kMostDominant) return false;
+  uint32_t place = rows->count++;
+  for (; place > 0 && rows->codes[place - 1] > row; --place)
+    rows->codes[place] = rows->codes[place - 1];
+  rows->codes[place] = row;
   return true;
 }
 
-uint32_t ChooseAll(StatusView view, uint32_t* codes) {
-  if (view.noResponse) {
-    codes[0] = StatusNoResponse;
-    return 1;
-  }
-  TieSet ties{{}, 0, kNoPriority};
+// Collects the rows that share the best priority seen so far, then puts their codes in their
+// places.
+DominantStatuses ChooseAll(StatusView view) {
+  if (view.noResponse) return {{StatusNoResponse}, 1};
+  DominantStatuses best;
+  best.codes[0] = 0;
+  best.count = 0;
+  uint32_t bestPriority = kNoPriority;
   for (uint32_t code; TakeNext(&view.codes, &code);) {
     const uint32_t row = FindPriorityRow(code);
     const uint32_t priority = kPriorityTable[row].priority;
-    if (row == kPriorityRows || priority > ties.priority) continue;
-    if (priority < ties.priority) {
-      ties.priority = priority;
-      ties.count = 0;
-    }
-    if (!AddRow(&ties, row)) return 0;
+    if (row == kPriorityRows || priority > bestPriority) continue;
+    if (priority < bestPriority) best.count = 0;
+    bestPriority = priority;
+    if (!AddRow(&best, row)) return {};
   }
-  for (uint32_t tie = 0; tie < ties.count; ++tie)
-    codes[tie] = kPriorityTable[ties.rows[tie]].code;
-  if (ShowsPrinting(view, ties.priority)) {
-    codes[0] = StatusPrinting;
-    return 1;
-  }
-  return ties.count;
+  if (ShowsPrinting(view, bestPriority)) return {{StatusPrinting}, 1};
+  for (uint32_t i = 0; i < best.count; ++i)
+    best.codes[i] = kPriorityTable[best.codes[i]].code;
+  return best;
 }
 
 }  // namespace
 
-uint32_t GetDominantStatus(const PrnInfo* info) {
-  return ChooseOne(ViewStatus(*info));
+uint32_t GetDominantStatus(const PrnInfo& info) {
+  return ChooseOne(ViewStatus(info));
 }
 
-uint32_t GetDominantStatus_Ex(const PrnInfoEx* info) {
-  return ChooseOne(ViewStatus(*info));
+uint32_t GetDominantStatus(const PrnInfoEx& info) {
+  return ChooseOne(ViewStatus(info));
 }
 
-uint32_t GetDominantStatusList(const PrnInfo* info, uint32_t* codes, uint32_t) {
-  return ChooseAll(ViewStatus(*info), codes);
+DominantStatuses GetDominantStatuses(const PrnInfo& info) {
+  return ChooseAll(ViewStatus(info));
 }
 
-uint32_t GetDominantStatusList_Ex(const PrnInfoEx* info, uint32_t* codes, uint32_t) {
-  return ChooseAll(ViewStatus(*info), codes);
+DominantStatuses GetDominantStatuses(const PrnInfoEx& info) {
+  return ChooseAll(ViewStatus(info));
+}
+
+uint32_t OwnStatus(const PrnInfo& info) {
+  if (info.noResponse) return StatusNoResponse;
+  const bool isMild = info.statusCode <= kLastMildCode;
+  return info.printing && isMild ? uint32_t{StatusPrinting} : info.statusCode;
+}
+
+DominantStatuses StatusesOf(const PrnInfo& info) {
+  if (HasSeveralStatuses(info)) return GetDominantStatuses(info);
+  return {{OwnStatus(info)}, 1};
+}
+
+DominantStatuses StatusesOf(const PrnInfoEx& info) {
+  return GetDominantStatuses(info);
 }
 
 }  // namespace stm

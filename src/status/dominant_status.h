@@ -3,28 +3,40 @@
 
 #include <cstdint>
 
+#include "status/status_codes.h"
 #include "stmdata/records.h"
 
 namespace stm {
 
-inline constexpr uint32_t kMostDominant = 16;
-inline constexpr uint32_t kServiceCall = 48;
-
-// Service calls come as 48 to 64; the tables know 48.
 inline uint32_t FoldServiceCall(uint32_t code) {
-  return code >= 48 && code <= 64 ? kServiceCall : code;
+  return code >= StatusServiceCall && code <= StatusLastServiceCall ? uint32_t{StatusServiceCall}
+                                                                    : code;
 }
 
 // The status of the best priority; 102 when the printer does not respond, 100 when it prints and
 // nothing worse than paper and consumables is listed, 0 when nothing is.
-uint32_t GetDominantStatus(const PrnInfo* info);
-uint32_t GetDominantStatus_Ex(const PrnInfoEx* info);
+uint32_t GetDominantStatus(const PrnInfo& info);
+uint32_t GetDominantStatus(const PrnInfoEx& info);
 
-// All statuses of the best priority, in table order; a code listed twice comes twice.
-//   codes     at least kMostDominant entries, which every caller has; `capacity` is not looked at
-//   Result    number of codes; 0 when nothing is listed, or more than kMostDominant share the best
-//             priority, and `codes` is not written
-uint32_t GetDominantStatusList(const PrnInfo* info, uint32_t* codes, uint32_t capacity);
-uint32_t GetDominantStatusList_Ex(const PrnInfoEx* info, uint32_t* codes, uint32_t capacity);
+inline constexpr uint32_t kMostDominant = 16;
+
+struct DominantStatuses {
+  uint32_t codes[kMostDominant];  // as many as there are; the first is 0 where there is none
+  uint32_t count;
+};
+
+// All statuses of the best priority, in table order; a code listed twice comes twice. None when
+// nothing is listed, or more than kMostDominant share the best priority.
+DominantStatuses GetDominantStatuses(const PrnInfo& info);
+DominantStatuses GetDominantStatuses(const PrnInfoEx& info);
+
+// A flat record's one code where it stands for itself: 102 and 100 as above, though the code alone
+// tells how grave it is.
+uint32_t OwnStatus(const PrnInfo& info);
+
+// What a record's texts and picture are about: the dominant statuses, or the flat record's one code
+// where that stands for itself.
+DominantStatuses StatusesOf(const PrnInfo& info);
+DominantStatuses StatusesOf(const PrnInfoEx& info);
 
 }  // namespace stm

@@ -31,13 +31,13 @@ uint32_t WriteName(const char* name, char* buffer) {
 
 // Neither printing nor a missing response shows here, unless several statuses are weighed.
 uint32_t IconCode(const PrnInfo& info) {
-  return HasSeveralStatuses(info) ? GetDominantStatus(&info) : info.statusCode;
+  return HasSeveralStatuses(info) ? GetDominantStatus(info) : info.statusCode;
 }
 
 uint32_t IconCode(const PrnInfoEx& info) {
   if (info.noResponse) return StatusNoResponse;
   const bool listsNothing = !info.statusList || info.statusCount == 0;
-  return listsNothing ? 0 : GetDominantStatus_Ex(&info);
+  return listsNothing ? 0 : GetDominantStatus(info);
 }
 
 // The entry is delivered without a record, too: the drawing has none.

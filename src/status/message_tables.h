@@ -32,9 +32,7 @@ inline constexpr MessageRow kDuplexMessages[] = {
     {0, 0},     // closing row: no text of its own
 };
 
-// The toner codes are three groups of the four colours in this order.
-inline constexpr uint32_t kFirstTonerCode = 65;
-inline constexpr uint32_t kLastTonerCode = 76;
+// In the order that the toner codes have them.
 inline constexpr uint32_t kColours = 4;
 
 inline constexpr uint32_t kFlatNamesCodePage = 932;

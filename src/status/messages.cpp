@@ -1,8 +1,9 @@
 // What a record says in words. The twins share tables and bodies; how each picks its status, tests
-// for offline and fetches texts stands in the two builders of a statement.
+// for offline and fetches texts shows where a function stands twice, once for each record.
 #include <cstring>
 
 #include "records/item_list.h"
+#include "records/row_index.h"
 #include "resources/chosen_language.h"
 #include "resources/strings.h"
 #include "status/dominant_status.h"
@@ -45,75 +46,38 @@ uint32_t Tell(Loader load, uint32_t id, const Target& target) {
   return load(id, target) ? 1 : FailWith(PatErrorText);
 }
 
-// The last row answers for every code that no row before it has.
-template <size_t Rows>
-uint32_t MessageOf(const MessageRow (&table)[Rows], uint32_t code) {
-  const MessageRow* row = table;
-  while (row < table + Rows - 1 && row->code != code)
-    ++row;
-  return row->messageId;
-}
-
 // ---- The status to talk about -------------------------------------------------------------------
 
 struct Statement {
-  uint32_t code;  // codes[0], or 0
-  bool offline;   // says that the printer is offline, whatever the code
+  uint32_t code;
+  bool offline;  // says that the printer is offline, whatever the code
   Loader load;
-  uint32_t codes[kMostDominant];
-  uint32_t count;
 };
 
-bool IsMildWhilePrinting(const PrnInfo& info) {
-  return info.printing && info.statusCode <= kLastMildCode;
+Statement State(const PrnInfo& info, uint32_t code) {
+  return {code, !info.online && code <= kLastMildCode, LoadInThreadLanguage};
 }
 
-// The flat record's one code where it stands for itself.
-uint32_t OwnCode(const PrnInfo& info) {
-  if (info.noResponse) return StatusNoResponse;
-  return IsMildWhilePrinting(info) ? uint32_t{StatusPrinting} : info.statusCode;
+Statement State(const PrnInfoEx& info, uint32_t code) {
+  return {code, !info.online && !info.hasError, LoadInChosenLanguage};
 }
 
-bool SaysOffline(const PrnInfo& info, uint32_t code) {
-  return !info.online && code <= kLastMildCode;
-}
-
-bool SaysOffline(const PrnInfoEx& info) {
-  return !info.online && !info.hasError;
-}
-
-Statement StateShort(const PrnInfo& info) {
-  const uint32_t code = HasSeveralStatuses(info) ? GetDominantStatus(&info) : OwnCode(info);
-  return {code, SaysOffline(info, code), LoadInThreadLanguage, {code}, 1};
-}
-
-Statement StateShort(const PrnInfoEx& info) {
-  const uint32_t code = GetDominantStatus_Ex(&info);
-  return {code, SaysOffline(info), LoadInChosenLanguage, {code}, 1};
-}
-
-Statement StateAll(const PrnInfo& info) {
-  if (!HasSeveralStatuses(info)) return StateShort(info);
-  Statement statement{0, false, LoadInThreadLanguage, {}, 0};
-  statement.count = GetDominantStatusList(&info, statement.codes, kMostDominant);
-  if (statement.count > 0) statement.code = statement.codes[0];
-  statement.offline = SaysOffline(info, statement.code);
-  return statement;
-}
-
-Statement StateAll(const PrnInfoEx& info) {
-  Statement statement{0, SaysOffline(info), LoadInChosenLanguage, {}, 0};
-  statement.count = GetDominantStatusList_Ex(&info, statement.codes, kMostDominant);
-  if (statement.count > 0) statement.code = statement.codes[0];
-  return statement;
-}
-
-const StatusRow& RowOf(const Statement& statement) {
+const StatusRow& FindRow(const Statement& statement) {
   return statement.offline ? kOfflineRow : FindStatusRow(statement.code);
 }
 
-uint32_t TellShort(const Statement& statement, const Target& target) {
-  return Tell(statement.load, RowOf(statement).simpleId, target);
+uint32_t ShortCode(const PrnInfo& info) {
+  return HasSeveralStatuses(info) ? GetDominantStatus(info) : OwnStatus(info);
+}
+
+uint32_t ShortCode(const PrnInfoEx& info) {
+  return GetDominantStatus(info);
+}
+
+template <class Record>
+uint32_t TellShort(const Record& info, const Target& target) {
+  const Statement statement = State(info, ShortCode(info));
+  return Tell(statement.load, FindRow(statement).simpleId, target);
 }
 
 // ---- Toner colours ------------------------------------------------------------------------------
@@ -136,11 +100,11 @@ void AddToSuffix(Suffix& suffix, const char* name) {
 }
 
 constexpr bool IsTonerCode(uint32_t code) {
-  return code >= kFirstTonerCode && code <= kLastTonerCode;
+  return code >= StatusFirstToner && code <= StatusLastToner;
 }
 
 uint32_t ColourOf(uint32_t tonerCode) {
-  return (tonerCode - kFirstTonerCode) % kColours;
+  return (tonerCode - StatusFirstToner) % kColours;
 }
 
 // The codes of one tie are all toner codes or none of them is.
@@ -155,21 +119,21 @@ static_assert([] {
 }());
 
 // A line of its own with a name for each code, in the order of the codes.
-Suffix FlatSuffix(const Statement& statement) {
+Suffix FlatSuffix(const DominantStatuses& statuses) {
   Suffix suffix{{}, 0, kFlatNamesCodePage};
-  if (!IsTonerCode(statement.code)) return suffix;
+  if (!IsTonerCode(statuses.codes[0])) return suffix;
   AddToSuffix(suffix, "\n");
-  for (uint32_t i = 0; i < statement.count; ++i)
-    AddToSuffix(suffix, kColourNames[ColourOf(statement.codes[i])].flatName);
+  for (uint32_t i = 0; i < statuses.count; ++i)
+    AddToSuffix(suffix, kColourNames[ColourOf(statuses.codes[i])].flatName);
   return suffix;
 }
 
 // Each colour once, in the order of the colours; the text before it ends its line itself.
-Suffix ListSuffix(const Statement& statement, LANGID language) {
+Suffix ListSuffix(const DominantStatuses& statuses, LANGID language) {
   Suffix suffix{};
   bool flagged[kColours] = {};
-  for (uint32_t i = 0; i < statement.count; ++i) {
-    if (IsTonerCode(statement.codes[i])) flagged[ColourOf(statement.codes[i])] = true;
+  for (uint32_t i = 0; i < statuses.count; ++i) {
+    if (IsTonerCode(statuses.codes[i])) flagged[ColourOf(statuses.codes[i])] = true;
   }
   for (uint32_t colour = 0; colour < kColours; ++colour) {
     char name[kColourNameSize];
@@ -203,8 +167,8 @@ bool WasCut(const Statement& statement, uint32_t id, const Target& target) {
   return std::strlen(whole) > length;
 }
 
-uint32_t TellDetail(const Statement& statement, const Suffix& suffix, const Target& target) {
-  const StatusRow& row = RowOf(statement);
+uint32_t TellStatement(const Statement& statement, const Suffix& suffix, const Target& target) {
+  const StatusRow& row = FindRow(statement);
   if (!Tell(statement.load, row.detailId, target)) return 0;
   const bool wantsSuffix = suffix.length > 0 && !statement.offline;
   if (wantsSuffix && !WasCut(statement, row.detailId, target)) AppendSuffix(suffix, target);
@@ -213,75 +177,51 @@ uint32_t TellDetail(const Statement& statement, const Suffix& suffix, const Targ
 
 // ---- Trays --------------------------------------------------------------------------------------
 
-bool HasMissingTray(TrayView trays) {
-  for (TrayPaper tray; TakeNext(&trays, &tray);) {
-    if (tray.paperCode == PaperTrayMissing) return true;
-  }
-  return false;
-}
-
-// Whether a tray says that it holds no paper, or one in place has run down to nothing.
-template <class Record>
-bool HasEmptyTray(const Record& info, uint32_t (*isPresent)(const Record*, uint32_t),
-                  uint32_t exemptTray) {
-  TrayView trays = ViewTrays(info);
-  for (TrayPaper tray; TakeNext(&trays, &tray);) {
-    if (tray.trayId != exemptTray && tray.paperCode == PaperNone) return true;
-  }
-  LevelView levels = ViewLevels(info);
-  for (TrayLevel tray; TakeNext(&levels, &tray);) {
-    if (tray.trayId != exemptTray && tray.paperLevel <= 1 && isPresent(&info, tray.trayId))
-      return true;
-  }
-  return false;
-}
-
 constexpr uint32_t kNoTray = 0xFFFFFFFF;
 
-uint32_t CheckMissingTray(const PrnInfo& info, const Target& target) {
-  return HasMissingTray(ViewTrays(info)) ? LoadInThreadLanguage(kTrayMessage, target) : 0;
-}
-
-uint32_t CheckMissingTray_Ex(const PrnInfoEx& info, const Target& target) {
-  return HasMissingTray(ViewTrays(info)) ? LoadInChosenLanguage(kTrayMessage, target) : 0;
-}
-
-uint32_t CheckEmptyTray(const PrnInfo& info, const Target& target) {
-  return HasEmptyTray(info, IsTrayPresent, TrayBypass) ? LoadInThreadLanguage(kTrayMessage, target)
-                                                       : 0;
-}
-
-uint32_t CheckEmptyTray_Ex(const PrnInfoEx& info, const Target& target) {
-  return HasEmptyTray(info, IsTrayPresent_Ex, kNoTray) ? LoadInChosenLanguage(kTrayMessage, target)
-                                                       : 0;
+// Whether a tray is missing or has no paper; `exempt` may have none.
+bool NeedsTray(const TrayView& trays, LevelView levels, uint32_t exempt) {
+  TrayView left = trays;
+  for (TrayPaper tray; TakeNext(&left, &tray);) {
+    if (tray.paperCode == PaperTrayMissing) return true;
+    if (tray.paperCode == PaperNone && tray.trayId != exempt) return true;
+  }
+  for (TrayLevel tray; TakeNext(&levels, &tray);) {
+    if (tray.trayId != exempt && HasRunDown(tray, trays)) return true;
+  }
+  return false;
 }
 
 // ---- Details and recovery -----------------------------------------------------------------------
 
 uint32_t DuplexMessage(const PrnInfoEx& info, uint32_t code) {
-  return FindItem(info.optionList, OptionDuplex) ? MessageOf(kDuplexMessages, code) : 0;
+  if (!FindItem(info.optionList, OptionDuplex)) return 0;
+  return RowOf<kDuplexMessages, &MessageRow::code>(code).messageId;
 }
 
-uint32_t DetailOf(PrnInfo* info, const Target& target) {
-  const bool saysReady = info->statusCode == 0;
-  if (saysReady && (CheckMissingTray(*info, target) || CheckEmptyTray(*info, target))) return 1;
-  const Statement statement = StateAll(*info);
-  if (info->statusCount == 1) info->statusList[0] = statement.code;
-  return TellDetail(statement, FlatSuffix(statement), target);
+uint32_t TellDetail(PrnInfo& info, const Target& target) {
+  if (info.statusCode == StatusReady && NeedsTray(ViewTrays(info), ViewLevels(info), TrayBypass) &&
+      LoadInThreadLanguage(kTrayMessage, target))
+    return 1;
+  const DominantStatuses statuses = StatusesOf(info);
+  const Statement statement = State(info, statuses.codes[0]);
+  if (info.statusCount == 1) info.statusList[0] = statement.code;
+  return TellStatement(statement, FlatSuffix(statuses), target);
 }
 
-uint32_t DetailOf(const PrnInfoEx& info, const Target& target) {
-  const Statement statement = StateAll(info);
+uint32_t TellDetail(const PrnInfoEx& info, const Target& target) {
+  const DominantStatuses statuses = StatusesOf(info);
+  const Statement statement = State(info, statuses.codes[0]);
   if (!statement.offline) {
-    const bool saysReady = statement.code == 0;
-    if (saysReady && (CheckMissingTray_Ex(info, target) || CheckEmptyTray_Ex(info, target)))
+    if (statement.code == StatusReady && NeedsTray(ViewTrays(info), ViewLevels(info), kNoTray) &&
+        LoadInChosenLanguage(kTrayMessage, target))
       return 1;
     if (const uint32_t message = DuplexMessage(info, statement.code)) {
-      statement.load(message, target);
+      LoadInChosenLanguage(message, target);
       return 1;
     }
   }
-  return TellDetail(statement, ListSuffix(statement, target.language), target);
+  return TellStatement(statement, ListSuffix(statuses, target.language), target);
 }
 
 // A printer that prints keeps its several codes: the marker is no mild code.
@@ -289,7 +229,7 @@ static_assert(StatusSeveralMarker > kLastMildCode);
 
 uint32_t RecoveryCode(const PrnInfo& info) {
   const bool takesFirst = HasSeveralStatuses(info) && !info.noResponse;
-  return FoldServiceCall(takesFirst ? info.statusList[0] : OwnCode(info));
+  return FoldServiceCall(takesFirst ? info.statusList[0] : OwnStatus(info));
 }
 
 uint32_t RecoveryCode(const PrnInfoEx& info) {
@@ -301,7 +241,7 @@ uint32_t RecoveryCode(const PrnInfoEx& info) {
 }
 
 uint32_t TellRecovery(uint32_t code, Loader load, const Target& target) {
-  return Tell(load, MessageOf(kRecoveryTable, code), target);
+  return Tell(load, RowOf<kRecoveryTable, &MessageRow::code>(code).messageId, target);
 }
 
 uint32_t TellHelpContext(char* context) {
@@ -319,25 +259,25 @@ int32_t SignedSize(uint32_t size) {
 uint32_t STM_CALL PatGetSimpleString(const PrnInfo* info, char* buffer, int32_t size) {
   const stm::Target target = stm::EmptiedTarget(buffer, size);
   if (!info) return stm::FailWith(PatErrorNullRecord);
-  return stm::TellShort(stm::StateShort(*info), target);
+  return stm::TellShort(*info, target);
 }
 
 uint32_t STM_CALL PatGetSimpleString_Ex(const PrnInfoEx* info, char* buffer, int32_t size) {
   const stm::Target target = stm::EmptiedTarget(buffer, size);
   if (!info) return stm::FailWith(PatErrorNullRecord);
-  return stm::TellShort(stm::StateShort(*info), target);
+  return stm::TellShort(*info, target);
 }
 
 uint32_t STM_CALL PatGetDetailString(PrnInfo* info, char* buffer, uint32_t size) {
   const stm::Target target = stm::EmptiedTarget(buffer, stm::SignedSize(size));
   if (!info) return stm::FailWith(PatErrorNullRecord);
-  return stm::DetailOf(info, target);
+  return stm::TellDetail(*info, target);
 }
 
 uint32_t STM_CALL PatGetDetailString_Ex(const PrnInfoEx* info, char* buffer, int32_t size) {
   const stm::Target target = stm::EmptiedTarget(buffer, size);
   if (!info) return stm::FailWith(PatErrorNullRecord);
-  return stm::DetailOf(*info, target);
+  return stm::TellDetail(*info, target);
 }
 
 uint32_t STM_CALL PatGetRecoveryString(const PrnInfo* info, char* buffer, int32_t size) {

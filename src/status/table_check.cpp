@@ -7,6 +7,7 @@
 #include "records/status_classes.h"
 #include "status/icon_table.h"
 #include "status/priority_table.h"
+#include "status/status_codes.h"
 #include "status/status_table.h"
 
 namespace stm {
@@ -24,10 +25,9 @@ constexpr bool IsStatus(uint32_t code) {
 // The library's own codes are chosen without a priority. The paper type error shows the icon of the
 // closing row.
 constexpr bool HasItsRows(uint32_t code) {
-  constexpr uint32_t kPaperType = 31;
   const bool own = code == StatusPrinting || code == StatusNoResponse;
   return Has<kPriorityTable, &PriorityRow::code>(code) != own &&
-         Has<kErrPartsTable, &IconRow::code>(code) == (code != kPaperType);
+         Has<kErrPartsTable, &IconRow::code>(code) == (code != StatusPaperTypeError);
 }
 
 constexpr bool TablesAgree() {

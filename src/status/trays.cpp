@@ -1,13 +1,13 @@
 #include "status/trays.h"
 
-#include "status/record_view.h"
-
 namespace stm {
 namespace {
 
+constexpr uint32_t kEmptyLevel = 1;  // printers tell an empty tray as 0 or 1
+
 // False, and `found` untouched, when no tray has the id.
-bool FindTray(TrayView view, uint32_t id, TrayPaper* found) {
-  for (TrayPaper tray; TakeNext(&view, &tray);) {
+bool FindTray(TrayView trays, uint32_t id, TrayPaper* found) {
+  for (TrayPaper tray; TakeNext(&trays, &tray);) {
     if (tray.trayId != id) continue;
     *found = tray;
     return true;
@@ -15,32 +15,20 @@ bool FindTray(TrayView view, uint32_t id, TrayPaper* found) {
   return false;
 }
 
-uint32_t IsPresent(const TrayView& view, uint32_t id) {
-  TrayPaper tray;
-  return FindTray(view, id, &tray) && tray.paperCode != PaperTrayMissing;
-}
-
-uint32_t IsListed(const TrayView& view, uint32_t id) {
-  TrayPaper tray;
-  return FindTray(view, id, &tray);
-}
-
 }  // namespace
 
-uint32_t IsTrayPresent(const PrnInfo* info, uint32_t tray) {
-  return IsPresent(ViewTrays(*info), tray);
+bool IsTrayListed(TrayView trays, uint32_t id) {
+  TrayPaper tray;
+  return FindTray(trays, id, &tray);
 }
 
-uint32_t IsTrayPresent_Ex(const PrnInfoEx* info, uint32_t tray) {
-  return IsPresent(ViewTrays(*info), tray);
+bool IsTrayPresent(TrayView trays, uint32_t id) {
+  TrayPaper tray;
+  return FindTray(trays, id, &tray) && tray.paperCode != PaperTrayMissing;
 }
 
-uint32_t HasTray(const PrnInfo* info, uint32_t tray) {
-  return IsListed(ViewTrays(*info), tray);
-}
-
-uint32_t HasTray_Ex(const PrnInfoEx* info, uint32_t tray) {
-  return IsListed(ViewTrays(*info), tray);
+bool HasRunDown(const TrayLevel& tray, const TrayView& trays) {
+  return tray.paperLevel <= kEmptyLevel && IsTrayPresent(trays, tray.trayId);
 }
 
 }  // namespace stm

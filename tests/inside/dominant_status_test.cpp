@@ -47,10 +47,9 @@ const DominantCase kCases[] = {
     {"seventeen before a better one", {.statuses = Repeat(69, 17, {36})}, 36, {}},
 };
 
-void CheckAll(const Codes& expected, uint32_t count, const uint32_t* codes) {
-  REQUIRE(count == expected.size());
-  CHECK(Codes(codes, codes + count) == expected);
-  if (count == 0) CHECK(codes[0] == test::kMarker);
+void CheckAll(const Codes& expected, const stm::DominantStatuses& got) {
+  CHECK(Codes(got.codes, got.codes + got.count) == expected);
+  if (expected.empty()) CHECK(got.codes[0] == 0);
 }
 
 }  // namespace
@@ -59,12 +58,10 @@ TEST_CASE("several statuses are reduced to the gravest, the same from both recor
   for (const DominantCase& row : kCases) {
     CAPTURE(row.why);
     test::BothRecords records(row.said);
-    CHECK(stm::GetDominantStatus(&records.flat) == row.one);
-    CHECK(stm::GetDominantStatus_Ex(&records.list) == row.one);
-    uint32_t codes[16] = {test::kMarker};
-    CheckAll(row.all, stm::GetDominantStatusList(&records.flat, codes, 16), codes);
-    codes[0] = test::kMarker;
-    CheckAll(row.all, stm::GetDominantStatusList_Ex(&records.list, codes, 16), codes);
+    CHECK(stm::GetDominantStatus(records.flat) == row.one);
+    CHECK(stm::GetDominantStatus(records.list) == row.one);
+    CheckAll(row.all, stm::GetDominantStatuses(records.flat));
+    CheckAll(row.all, stm::GetDominantStatuses(records.list));
   }
 }
 
@@ -72,16 +69,16 @@ TEST_CASE("counts that promise more than there is end at the array and at the ch
   test::BothRecords records({.statuses = Repeat(0, 31, {72})});
   records.flat.statusCount = records.list.statusCount = 0xFFFFFFFF;
   records.flat.reserved2[0] = 48;
-  CHECK(stm::GetDominantStatus(&records.flat) == 72);
-  CHECK(stm::GetDominantStatus_Ex(&records.list) == 72);
+  CHECK(stm::GetDominantStatus(records.flat) == 72);
+  CHECK(stm::GetDominantStatus(records.list) == 72);
 
   test::BothRecords trays({.trays = {{4, 8}}});
   trays.flat.trayCount = trays.list.trayCount = 0xFFFFFFFF;
-  CHECK_FALSE(stm::IsTrayPresent(&trays.flat, trays.flat.trayCount));
-  CHECK_FALSE(stm::HasTray_Ex(&trays.list, 5));
+  CHECK_FALSE(stm::IsTrayPresent(stm::ViewTrays(trays.flat), trays.flat.trayCount));
+  CHECK_FALSE(stm::IsTrayListed(stm::ViewTrays(trays.list), 5));
   trays.flat.trayCount = trays.list.trayCount = 0;
-  CHECK_FALSE(stm::IsTrayPresent(&trays.flat, 4));
-  CHECK_FALSE(stm::HasTray_Ex(&trays.list, 4));
+  CHECK_FALSE(stm::IsTrayPresent(stm::ViewTrays(trays.flat), 4));
+  CHECK_FALSE(stm::IsTrayListed(stm::ViewTrays(trays.list), 4));
 }
 
 TEST_CASE("a tray is listed, and present unless its paper code says that it is missing") {
@@ -92,9 +89,10 @@ TEST_CASE("a tray is listed, and present unless its paper code says that it is m
   } rows[] = {{3, true, true}, {4, true, false}, {5, false, false}, {0x10003, false, false}};
   for (const auto& row : rows) {
     CAPTURE(row.tray);
-    CHECK((stm::HasTray(&records.flat, row.tray) != 0) == row.listed);
-    CHECK((stm::HasTray_Ex(&records.list, row.tray) != 0) == row.listed);
-    CHECK((stm::IsTrayPresent(&records.flat, row.tray) != 0) == row.present);
-    CHECK((stm::IsTrayPresent_Ex(&records.list, row.tray) != 0) == row.present);
+    for (const stm::TrayView& trays :
+         {stm::ViewTrays(records.flat), stm::ViewTrays(records.list)}) {
+      CHECK(stm::IsTrayListed(trays, row.tray) == row.listed);
+      CHECK(stm::IsTrayPresent(trays, row.tray) == row.present);
+    }
   }
 }

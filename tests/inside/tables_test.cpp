@@ -1,5 +1,7 @@
 // The tables that are asked by name, and those whose answers no call shows one by one. Checksums as
 // in tables_test.cpp: the names come from the tables, the answers from the look-up.
+#include <algorithm>
+
 #include "checksum.h"
 #include "doctest/doctest.h"
 #include "names/description_names.h"
@@ -89,11 +91,13 @@ void AddPriorities(Checksum& sum) {
       info.statusList[0] = first;
       info.statusList[1] = second;
       info.statusCount = 2;
-      uint32_t codes[16] = {};
-      sum.Add(stm::GetDominantStatusList(&info, codes, 16));
+      const stm::DominantStatuses dominant = stm::GetDominantStatuses(info);
+      uint32_t codes[stm::kMostDominant] = {};
+      std::copy_n(dominant.codes, dominant.count, codes);
+      sum.Add(dominant.count);
       sum.Add(codes, sizeof codes);
       info.printing = 1;
-      sum.Add(stm::GetDominantStatus(&info));
+      sum.Add(stm::GetDominantStatus(info));
     }
   }
 }
