@@ -9,26 +9,32 @@ namespace stmon {
 namespace {
 
 // As a row of prtAlertTable would have it.
-Json AlertJson(const Reason& reason) {
+Json CodeJson(const std::optional<uint32_t>& code) {
+  return code ? Json(*code) : Json(nullptr);
+}
+
+Json AlertJson(const Condition& condition) {
+  const Reason& reason = *condition.reason;
   Json json{{"code", reason.alert}, {"name", AlertName(reason.alert)}, {"group", reason.group}};
   if (reason.supply != 0) json["supply_type"] = reason.supply;
-  if (reason.severity != Severity::Report)
-    json["severity"] = reason.severity == Severity::Error ? "critical" : "warning";
+  if (condition.severity != Severity::Report)
+    json["severity"] = condition.severity == Severity::Error ? "critical" : "warning";
   return json;
 }
 
 Json ConditionJson(const Condition& condition) {
   const Reason& reason = *condition.reason;
-  Json json{{"code", condition.code},
+  Json json{{"code", CodeJson(condition.code)},
             {"known", condition.known},
             {"dominant", condition.dominant},
             {"rank", condition.rank}};
   json["texts"] = TextsJson(condition.texts);
-  if (condition.known) json["level"] = condition.row.level;
-  json["severity"] = SeverityWord(reason.severity);
-  json["reason"] = Keyword(reason);
-  if (const char* colour = TonerColour(condition.code); *colour) json["colour"] = colour;
-  if (reason.alert != 0) json["alert"] = AlertJson(reason);
+  if (condition.row.level != 0) json["level"] = condition.row.level;
+  json["severity"] = SeverityWord(condition.severity);
+  json["reason"] = Keyword(reason, condition.severity);
+  if (const char* colour = TonerColour(reason.code); *colour) json["colour"] = colour;
+  if (condition.tray) json["tray"] = *condition.tray;
+  if (reason.alert != 0) json["alert"] = AlertJson(condition);
   if (reason.errorBits != 0) json["detected_error_state"] = ErrorBitNames(reason.errorBits);
   return json;
 }
@@ -64,8 +70,8 @@ Json IdentityJson(const Identity& identity) {
 // What the printer did not tell has no key: nobody shall take a default for its answer.
 void AddState(Json& json, const Snapshot& snapshot) {
   json["online"] = snapshot.online;
-  json["printer_state"] = StateWord(snapshot.conditions, snapshot.online);
-  json["printer_state_reasons"] = StateReasons(snapshot.conditions, snapshot.online);
+  json["printer_state"] = StateWord(snapshot.conditions);
+  json["printer_state_reasons"] = StateReasons(snapshot.conditions);
   json["language"] = snapshot.source.language->code;
   json["status"] = snapshot.headline;
   json["texts"] = TextsJson(snapshot.texts);

@@ -50,10 +50,10 @@ void AddConditions(Writer& writer, const Snapshot& snapshot) {
   constexpr const char* kName = "stmon_condition";
   Describe(writer, kName, "1 for each condition that the printer reports.");
   for (const Condition& condition : snapshot.conditions) {
+    const std::string code = condition.code ? std::to_string(*condition.code) : "";
     Sample(writer, kName,
-           ",code=\"" + std::to_string(condition.code) + "\",reason=\"" +
-               condition.reason->keyword + "\",severity=\"" +
-               SeverityWord(condition.reason->severity) + "\"",
+           ",code=\"" + code + "\",reason=\"" + condition.reason->keyword + "\",severity=\"" +
+               SeverityWord(condition.severity) + "\"",
            "1");
   }
 }

@@ -75,15 +75,16 @@ void AddLanguages(std::string& report, const std::vector<Texts>& allTexts) {
   }
 }
 
-// One condition that the status line tells in full needs no list.
+// A single known condition is told in full by the status line.
 void AddConditions(std::string& report, const Snapshot& snapshot) {
   const char* label = "Conditions";
-  const bool told_already = snapshot.conditions.size() == 1 && snapshot.conditions[0].known;
-  if (told_already) return;
+  const auto& conditions = snapshot.conditions;
+  const bool toldAlready = conditions.size() == 1 && conditions[0].known && !conditions[0].tray;
+  if (toldAlready) return;
   for (const Condition& condition : snapshot.conditions) {
     AddRow(report, label,
-           Padded(std::to_string(condition.code), 5) +
-               Padded(SeverityWord(condition.reason->severity), 9) + ConditionText(condition));
+           Padded(condition.code ? std::to_string(*condition.code) : "-", 5) +
+               Padded(SeverityWord(condition.severity), 9) + ConditionText(condition));
     label = "";
   }
 }

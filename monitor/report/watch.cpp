@@ -20,10 +20,6 @@ Parts StatusParts(const Snapshot& snapshot) {
   return {{"", snapshot.headline}};
 }
 
-Parts StateParts(const Snapshot& snapshot) {
-  return {{"", snapshot.online ? "online" : "offline"}};
-}
-
 Parts TrayParts(const Snapshot& snapshot) {
   Parts parts;
   for (const Tray& tray : snapshot.trays) {
@@ -80,8 +76,7 @@ struct Group {
 
 constexpr Group kGroups[] = {
     //  name   the library's group bits  parts
-    {"status", GroupStatusList, StatusParts},                //
-    {"state", GroupStatus, StateParts},                      //
+    {"status", 0, StatusParts},                              // the monitor's own
     {"trays", GroupTrays, TrayParts},                        //
     {"bins", GroupBins, BinParts},                           //
     {"options", GroupOptions, OptionParts},                  //
@@ -99,7 +94,7 @@ bool Agree(const Snapshot& before, const Snapshot& after, uint32_t groups) {
 // The library says whether the group changed, the parts say what.
 void AddGroup(std::vector<Event>& events, const Group& group, const Snapshot& before,
               const Snapshot& after) {
-  if (Agree(before, after, group.bits)) return;
+  if (group.bits != 0 && Agree(before, after, group.bits)) return;
   const Parts old_parts = group.parts(before);
   const Parts new_parts = group.parts(after);
   for (const auto& [key, text] : old_parts) {
@@ -115,21 +110,22 @@ void AddGroup(std::vector<Event>& events, const Group& group, const Snapshot& be
   }
 }
 
-bool Lists(const Snapshot& snapshot, uint32_t code) {
+bool Lists(const Snapshot& snapshot, const Condition& sought) {
   return std::any_of(snapshot.conditions.begin(), snapshot.conditions.end(),
-                     [&](const Condition& condition) { return condition.code == code; });
+                     [&](const Condition& condition) {
+                       return condition.code == sought.code && condition.reason == sought.reason;
+                     });
 }
 
 // Conditions are told one by one, since the library's comparison sees the deciding ones only.
-// "Ready" comes and goes with the status line: it is no condition to be told of twice.
 void AddConditions(std::vector<Event>& events, const Snapshot& before, const Snapshot& after) {
   for (const Condition& condition : before.conditions) {
-    if (condition.code != 0 && !Lists(after, condition.code))
+    if (!Lists(after, condition))
       events.push_back(
           {EventKind::Went, "conditions", ConditionText(condition), "", condition.code});
   }
   for (const Condition& condition : after.conditions) {
-    if (condition.code != 0 && !Lists(before, condition.code))
+    if (!Lists(before, condition))
       events.push_back(
           {EventKind::Came, "conditions", "", ConditionText(condition), condition.code});
   }

@@ -17,7 +17,7 @@ enum class EventKind { First, Changed, Came, Went, Lost, Back };
 
 struct Event {
   EventKind kind = EventKind::Changed;
-  std::string group;             // "printer", "status", "conditions", "state", "trays", ...
+  std::string group;             // "printer", "status", "conditions", "trays", ...
   std::string from;              // for people; empty for what came
   std::string to;                // for people; empty for what went
   std::optional<uint32_t> code;  // of a condition

@@ -41,7 +41,6 @@ void TakeCommon(const Info& info, RecordFields& fields) {
   fields.currentTray = info.currentTray;
   fields.currentBin = info.currentBin;
   fields.online = info.online == 1;
-  fields.hasError = info.hasError == 1;
 }
 
 // The flat record has no list of options but fields and bits, which stand for their codes.

@@ -42,7 +42,6 @@ struct RecordFields {
   uint32_t currentTray = 0;
   uint32_t currentBin = 0;  // may be BinUnknown
   bool online = false;
-  bool hasError = false;
 };
 
 // Lists end at their count and at their end, arrays at their capacity, whatever the count says.

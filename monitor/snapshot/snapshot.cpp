@@ -69,8 +69,6 @@ std::vector<Block> FillRecords(Snapshot& snapshot) {
 
 void TakeStatus(Snapshot& snapshot, const RecordFields& fields) {
   snapshot.online = fields.online;
-  snapshot.hasError = fields.hasError;
-  snapshot.conditions = ListConditions(fields.codes);
   if (fields.currentTray != 0) snapshot.currentTray = fields.currentTray;
   if (fields.currentBin != 0 && fields.currentBin != BinUnknown)
     snapshot.currentBin = fields.currentBin;
@@ -95,70 +93,97 @@ void TakeBlocks(Snapshot& snapshot, RecordFields fields, const std::vector<Block
     snapshot.options = std::move(fields.options);
 }
 
+// ---- What is the matter ----------------------------------------------------------------------
+
+constexpr uint32_t kNoPaper = 32, kTrayNotPlaced = 33, kMisfeedAtTray = 44;  // status codes
+
+// The status code that says of a tray what its paper and level say; 0 when it holds paper.
+uint32_t TrayStatus(const Tray& tray) {
+  constexpr uint32_t kEmptyLevel = 1;  // and below, as the library takes it
+  if (tray.paper == PaperTrayMissing) return kTrayNotPlaced;
+  const bool empty = tray.paper == PaperNone || tray.level.value_or(100) <= kEmptyLevel;
+  return empty ? kNoPaper : 0;
+}
+
+// Some status codes speak of the tray in use; what is the matter with it and is not reported is
+// found here.
+void AddTrayInUse(std::vector<Condition>& conditions, const Snapshot& snapshot) {
+  const uint32_t id = *snapshot.currentTray;
+  for (Condition& condition : conditions) {
+    const uint32_t code = condition.reason->code;
+    if (code == kNoPaper || code == kTrayNotPlaced || code == kMisfeedAtTray) condition.tray = id;
+  }
+  const auto tray = std::find_if(snapshot.trays.begin(), snapshot.trays.end(),
+                                 [&](const Tray& each) { return each.id == id; });
+  const uint32_t code = tray == snapshot.trays.end() ? 0 : TrayStatus(*tray);
+  const bool reported =
+      std::any_of(conditions.begin(), conditions.end(), [&](const Condition& condition) {
+        return condition.reason->keyword == std::string_view(ReasonOf(code).keyword);
+      });
+  if (code != 0 && !reported) conditions.push_back(TrayCondition(code, id));
+}
+
+void TakeConditions(Snapshot& snapshot, const std::vector<uint32_t>& codes) {
+  auto& conditions = snapshot.conditions;
+  if (snapshot.told) {
+    conditions = ReportedConditions(codes);
+    if (snapshot.currentTray) AddTrayInUse(conditions, snapshot);
+    if (!snapshot.online) conditions.push_back(OfflineCondition(snapshot.source.offlineAs));
+  }
+  if (!IsGood(snapshot)) conditions.push_back(NoAnswerCondition());
+  RankConditions(conditions);
+  snapshot.verdict = Judge(conditions);
+}
+
 // ---- What the library says about it -----------------------------------------------------------
 
-Texts StateTexts(const Snapshot& snapshot, const Language& language) {
-  if (!IsFlat(snapshot)) return AskTexts(*snapshot.record, language);
-  const auto& conditions = snapshot.conditions;
-  return AskTexts(*snapshot.flat, language, conditions.empty() ? 0 : conditions[0].code);
-}
+using Codes = std::vector<uint32_t>;
 
-Texts SampleTexts(const Snapshot& snapshot, const StatusSample& sample, uint32_t code) {
-  const Language& language = *snapshot.source.language;
-  return IsFlat(snapshot) ? AskTexts(sample.flat, language, code) : AskTexts(sample.list, language);
-}
-
-void TakeConditionTexts(Snapshot& snapshot) {
+Texts TextsOf(const Snapshot& snapshot, const Codes& codes, const Language& language) {
+  if (codes[0] == kOtherCode) return {};
   const auto& options = snapshot.options;
   const bool duplex =
       options && std::any_of(options->begin(), options->end(),
                              [](const Option& option) { return option.code == OptionDuplex; });
-  for (Condition& condition : snapshot.conditions) {
-    if (condition.known)
-      condition.texts = SampleTexts(snapshot, StatusSample(condition.code, duplex), condition.code);
-  }
+  const StatusSample sample(codes, duplex);
+  return IsFlat(snapshot) ? AskTexts(sample.flat, language, codes[0])
+                          : AskTexts(sample.list, language);
 }
 
-// The library's short text of a mild condition reads "ready" for an offline printer as well. That
-// of code 0 reads "offline" then.
-std::string OfflineText(const Snapshot& snapshot) {
-  StatusSample sample(0, false);
-  sample.list.online = 0;
-  sample.flat.online = 0;
-  return SampleTexts(snapshot, sample, 0).brief;
+std::string IconOf(const Snapshot& snapshot, const Codes& codes) {
+  if (codes[0] == kOtherCode) return "BMP_ERR_CAUTION";
+  const StatusSample sample(codes, false);
+  return IsFlat(snapshot) ? AskIcon(sample.flat) : AskIcon(sample.list);
 }
 
+// A mild condition's headline is "ready", which an offline printer is not.
 std::string Headline(const Snapshot& snapshot) {
   const auto& conditions = snapshot.conditions;
-  const bool mild = !conditions.empty() && conditions[0].reason->severity != Severity::Error;
-  if (mild && !snapshot.online) return OfflineText(snapshot);
-  if (!snapshot.texts.brief.empty()) return snapshot.texts.brief;
-  if (!conditions.empty()) return ConditionText(conditions[0]);
-  return snapshot.online ? "online" : "offline";
+  if (Judge(conditions) < Verdict::CannotPrint) {
+    for (const Condition& condition : conditions) {
+      if (condition.reason->code == kOfflineCode) return condition.texts.brief;
+    }
+  }
+  if (!snapshot.texts.brief.empty() || conditions.empty()) return snapshot.texts.brief;
+  return ConditionText(conditions[0]);
 }
 
+// The words are those of what decides, and of nothing else that the record tells.
 void TakeWords(Snapshot& snapshot) {
-  snapshot.texts = StateTexts(snapshot, *snapshot.source.language);
-  snapshot.icon = IsFlat(snapshot) ? AskIcon(*snapshot.flat) : AskIcon(*snapshot.record);
-  if (snapshot.source.everyLanguage) {
-    for (const Language& language : kLanguages)
-      snapshot.allTexts.push_back(StateTexts(snapshot, language));
+  Codes codes;
+  for (Condition& condition : snapshot.conditions) {
+    const uint32_t code = condition.reason->code;
+    condition.texts = TextsOf(snapshot, {code}, *snapshot.source.language);
+    if (condition.dominant && std::find(codes.begin(), codes.end(), code) == codes.end())
+      codes.push_back(code);
   }
-  // The library takes a printer whose codes it does not know for ready; the exit status does not,
-  // and words and icon must agree with it.
-  if (!snapshot.conditions.empty() && !snapshot.conditions[0].known) {
-    snapshot.texts = {};
-    snapshot.icon = "BMP_ERR_CAUTION";
-  }
-  TakeConditionTexts(snapshot);
+  if (codes.empty()) codes.push_back(0);
+  snapshot.texts = TextsOf(snapshot, codes, *snapshot.source.language);
+  snapshot.icon = IconOf(snapshot, codes);
   snapshot.headline = Headline(snapshot);
-}
-
-void TakeNoResponse(Snapshot& snapshot) {
-  const StatusSample sample(StatusNoResponse, false);
-  snapshot.texts = SampleTexts(snapshot, sample, StatusNoResponse);
-  snapshot.icon = IsFlat(snapshot) ? AskIcon(sample.flat) : AskIcon(sample.list);
-  snapshot.headline = snapshot.texts.brief;
+  if (!snapshot.source.everyLanguage) return;
+  for (const Language& language : kLanguages)
+    snapshot.allTexts.push_back(TextsOf(snapshot, codes, language));
 }
 
 Snapshot NewSnapshot(Source source) {
@@ -175,7 +200,6 @@ Snapshot NewSnapshot(Source source) {
 Snapshot ReadIdentity(Source source) {
   Snapshot snapshot = NewSnapshot(std::move(source));
   snapshot.exchange.outcome = Outcome::NotAsked;
-  snapshot.verdict = Verdict::Fine;  // nothing was asked, so nothing is wrong
   return snapshot;
 }
 
@@ -185,17 +209,17 @@ Snapshot ReadExchange(Source source, Exchange exchange) {
   snapshot.trouble = TroubleText(snapshot.exchange);
   const auto blocks = FillRecords(snapshot);
   snapshot.told = Has(blocks, 'S');
-  if (!snapshot.told) {
-    if (snapshot.trouble.empty())
-      snapshot.trouble = "the reply has no status block, so the printer's state is not known.";
-    TakeNoResponse(snapshot);
-    return snapshot;
+  Codes codes;
+  if (snapshot.told) {
+    RecordFields fields = ChosenFields(snapshot);
+    codes = std::move(fields.codes);
+    TakeStatus(snapshot, fields);
+    TakeBlocks(snapshot, std::move(fields), blocks);
+  } else if (snapshot.trouble.empty()) {
+    snapshot.trouble = "the reply has no status block, so the printer's state is not known.";
   }
-  RecordFields fields = ChosenFields(snapshot);
-  TakeStatus(snapshot, fields);
-  TakeBlocks(snapshot, std::move(fields), blocks);
+  TakeConditions(snapshot, codes);
   TakeWords(snapshot);
-  if (IsGood(snapshot)) snapshot.verdict = Judge(snapshot.conditions, snapshot.online);
   return snapshot;
 }
 

@@ -39,7 +39,8 @@ struct Source {
   std::string deviceId;
   RecordKind kind = RecordKind::List;
   const Language* language = &kLanguages[0];
-  bool everyLanguage = false;  // the state's texts in all the others as well
+  bool everyLanguage = false;            // the state's texts in all the others as well
+  Severity offlineAs = Severity::Error;  // how grave it is that the printer is offline
 };
 
 struct Snapshot {
@@ -56,13 +57,12 @@ struct Snapshot {
   std::optional<Identity> identity;
   bool told = false;  // a status block arrived: what follows means something
   bool online = false;
-  bool hasError = false;
-  std::vector<Condition> conditions;  // most important first, without repetitions
-  Verdict verdict = Verdict::Unknown;
+  std::vector<Condition> conditions;  // the most important first, which decides
+  Verdict verdict = Verdict::Fine;
 
-  // The words and the icon of the state; those of "no response" when the printer did not tell it.
+  // The words and the icon of what decides.
   std::string headline;         // one line
-  Texts texts;                  // empty when the library does not know the dominant code
+  Texts texts;                  // empty when the library does not know the code
   std::vector<Texts> allTexts;  // in the order of kLanguages, when they were asked for
   std::string icon;             // a name of the library's resources
 

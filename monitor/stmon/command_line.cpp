@@ -59,6 +59,10 @@ void Describe(CLI::App& app, Options& options) {
   app.add_option("--timeout", options.timeout, "for the whole poll, default 5")
       ->option_text("SECONDS")
       ->check(CLI::Range(0.1, 3600.0));
+  app.add_option("--offline-as", options.offlineAs,
+                 "what an offline printer without an error is, default critical")
+      ->option_text("ok|warning|critical|unknown")
+      ->check(CLI::IsMember({"ok", "warning", "critical", "unknown"}));
   auto* simulate = app.add_option("--simulate", options.simulate,
                                   "be a simulated printer at 127.0.0.1, until ended")
                        ->option_text("PORT");

@@ -18,12 +18,20 @@ namespace {
 
 constexpr int kTrouble = static_cast<int>(Verdict::Unknown);
 
+// The words are those of monitoring plug-ins.
+Severity OfflineSeverity(const std::string& word) {
+  if (word == "ok") return Severity::Report;
+  if (word == "warning") return Severity::Warning;
+  return word == "unknown" ? Severity::Unknown : Severity::Error;
+}
+
 Source SourceOf(const Options& options, std::string name) {
   Source source;
   source.name = std::move(name);
   source.deviceId = options.deviceId;
   source.kind = options.record == "flat" ? RecordKind::Flat : RecordKind::List;
   source.language = &ChosenLanguage(options);
+  source.offlineAs = OfflineSeverity(options.offlineAs);
   // What changes is told in one language.
   source.everyLanguage = options.language == "all" && options.watch == 0;
   return source;

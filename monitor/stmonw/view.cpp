@@ -27,13 +27,11 @@ std::wstring WithCrLf(const std::wstring& text) {
   return lines;
 }
 
-// All but what the headline tells; for an offline printer that is "offline", which hides even the
-// condition that would decide otherwise.
+// All but what the headline tells.
 std::vector<std::wstring> OtherConditions(const stmon::Snapshot& snapshot) {
-  const bool offline = !snapshot.online && !snapshot.hasError;
   std::vector<std::wstring> others;
   for (const stmon::Condition& condition : snapshot.conditions) {
-    if (condition.code == 0 || (condition.dominant && !offline)) continue;
+    if (condition.dominant) continue;
     std::string text = condition.texts.detail;
     std::replace(text.begin(), text.end(), '\n', ' ');
     others.push_back(Wide(text.empty() ? stmon::ConditionText(condition) : text));

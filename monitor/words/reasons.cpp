@@ -45,6 +45,7 @@ enum ErrorBits : uint32_t {
 
 constexpr Severity R = Severity::Report;
 constexpr Severity W = Severity::Warning;
+constexpr Severity U = Severity::Unknown;
 constexpr Severity E = Severity::Error;
 
 struct AlertRow {
@@ -144,9 +145,9 @@ constexpr Reason kReasons[] = {
     { 97, "media-jam",                      E,    8, Path,   0,      Jam},      // duplex unit
     { 99, "cover-open",                     E,    3, Cover,  0,      Door},     // front cover
     {100, "none",                           R,    0, 0,      0,      0},        // printing
-    {102, "timed-out",                      E,    0, 0,      0,      0},        // no response
+    {102, "timed-out",                      U,    0, 0,      0,      0},        // no response
     {kOfflineCode, "subunit-offline", E, 22, Device, 0, Off},  // switched offline
-    {kOtherCode, "other", E, 1, Unknown, 0, 0},  // closing row: any other code
+    {kOtherCode, "other", W, 1, Unknown, 0, 0},  // closing row: any other code
 };
 // clang-format on
 
@@ -168,9 +169,14 @@ const Reason* AllReasons() {
   return kReasons;
 }
 
-std::string Keyword(const Reason& reason) {
+std::string Keyword(const Reason& reason, Severity severity) {
   const std::string keyword = reason.keyword;
-  return keyword == "none" ? keyword : keyword + "-" + SeverityWord(reason.severity);
+  const bool plain = keyword == "none" || severity == Severity::Unknown;
+  return plain ? keyword : keyword + "-" + SeverityWord(severity);
+}
+
+std::string Keyword(const Reason& reason) {
+  return Keyword(reason, reason.severity);
 }
 
 const char* AlertName(uint32_t alert) {
@@ -191,6 +197,8 @@ const char* SeverityWord(Severity severity) {
       return "report";
     case Severity::Warning:
       return "warning";
+    case Severity::Unknown:
+      return "unknown";
     case Severity::Error:
       break;
   }

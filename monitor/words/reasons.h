@@ -10,7 +10,8 @@
 
 namespace stmon {
 
-enum class Severity { Report, Warning, Error };
+// How grave a condition is, the worst last. Unknown is that of a printer whose state is not known.
+enum class Severity { Report, Warning, Unknown, Error };
 
 struct Reason {
   uint32_t code;        // status code
@@ -35,8 +36,10 @@ const Reason& ReasonOf(uint32_t code);
 // The rows from the first to the closing one, whose code is kOtherCode.
 const Reason* AllReasons();
 
-// "toner-empty-error"; "none" alone has no suffix.
-std::string Keyword(const Reason& reason);
+// "toner-empty-error"; "none" has no suffix, nor has a reason of which nobody knows how grave it
+// is.
+std::string Keyword(const Reason& reason, Severity severity);
+std::string Keyword(const Reason& reason);  // with the severity of its row
 
 const char* AlertName(uint32_t alert);
 

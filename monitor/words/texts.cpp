@@ -4,6 +4,8 @@
 #include <cstring>
 #include <iterator>
 
+#include "words/reasons.h"
+
 #include "words/safe_text.h"
 
 namespace stmon {
@@ -103,31 +105,36 @@ std::string AskIcon(const PrnInfo& info) {
   return PatGetErrParts(&info, name) == 1 ? name : "";
 }
 
-StatusSample::StatusSample(uint32_t code, bool duplex, uint32_t trays) {
+StatusSample::StatusSample(std::span<const uint32_t> codes, bool duplex, uint32_t trays) {
   list.recordTag = PrnInfoExTag;
   list.structSize = PrnInfoExSize;
-  list.online = 1;  // an offline printer's texts tell of that instead
-  list.printing = code == StatusPrinting;
-  list.noResponse = code == StatusNoResponse;
-  status.nodeSize = sizeof status;
-  status.code = static_cast<uint16_t>(code);
-  // The library's own two codes come from flags; as listed codes they mean nothing.
-  if (code != StatusPrinting && code != StatusNoResponse) {
-    list.statusCount = 1;
-    list.statusList = &status;
+  flat.structSize = PrnInfoSize;
+  list.online = flat.online = 1;
+  for (const uint32_t code : codes) {
+    if (code == kOfflineCode) list.online = flat.online = 0;
+    if (code == kOfflineCode || code == kOtherCode) continue;
+    flat.statusCode = code;
+    flat.statusList[flat.statusCount++] = code;
+    list.printing |= code == StatusPrinting;
+    list.noResponse |= code == StatusNoResponse;
+    // The library's own two codes come from flags; as listed codes they mean nothing.
+    if (code == StatusPrinting || code == StatusNoResponse) continue;
+    StatusNode& node = statuses.emplace_back();
+    node.nodeSize = sizeof node;
+    node.code = static_cast<uint16_t>(code);
   }
+  for (size_t i = 1; i < statuses.size(); ++i)
+    statuses[i - 1].next = &statuses[i];
+  list.statusCount = static_cast<uint32_t>(statuses.size());
+  list.statusList = statuses.empty() ? nullptr : statuses.data();
+  flat.printing = list.printing;
+  flat.noResponse = list.noResponse;
+  if (flat.statusCount > 1) flat.statusCode = StatusSeveralMarker;
   duplexUnit.nodeSize = sizeof duplexUnit;
   duplexUnit.optionCode = OptionDuplex;
   list.optionCount = duplex;
   list.optionList = duplex ? &duplexUnit : nullptr;
 
-  flat.structSize = PrnInfoSize;
-  flat.online = 1;
-  flat.statusCode = code;
-  flat.statusCount = 1;
-  flat.statusList[0] = code;
-  flat.printing = list.printing;
-  flat.noResponse = list.noResponse;
   flat.hasDuplex = flat.duplexFlag = duplex;
 
   constexpr uint16_t kFirstTray = 3, kA4 = 8, kFull = 100;

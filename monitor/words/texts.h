@@ -2,7 +2,10 @@
 // language are set for each question, so that callers need not know which of them a text follows.
 #pragma once
 
+#include <cstdint>
+#include <span>
 #include <string>
+#include <vector>
 
 #include "stmdata/stmdata.h"
 #include "words/user_language.h"
@@ -26,10 +29,14 @@ bool AskRow(uint32_t code, StatusRow& row);
 std::string AskIcon(const PrnInfoEx& record);
 std::string AskIcon(const PrnInfo& info);
 
-// One status alone, as both records would carry it: what the library says about the code itself.
-// The records point into the sample, which therefore stays where it is.
+// A status alone, or some that share a rank, as both records would carry them: what the library
+// says about the codes themselves. kOfflineCode stands for a printer that is offline, and
+// kOtherCode for nothing. The records point into the sample, which therefore stays where it is.
 struct StatusSample {
-  StatusSample(uint32_t code, bool duplex, uint32_t trays = 0);  // trays 1 to 3, filled with A4
+  // Trays 1 to 3, filled with A4.
+  StatusSample(std::span<const uint32_t> codes, bool duplex, uint32_t trays = 0);
+  StatusSample(uint32_t code, bool duplex, uint32_t trays = 0)
+      : StatusSample(std::span(&code, 1), duplex, trays) {}
   StatusSample(const StatusSample&) = delete;
   StatusSample& operator=(const StatusSample&) = delete;
 
@@ -37,7 +44,7 @@ struct StatusSample {
   PrnInfo flat{};
 
  private:
-  StatusNode status{};
+  std::vector<StatusNode> statuses;
   OptionNode duplexUnit{};
   TrayNode trayNodes[3]{};
 };

@@ -57,7 +57,7 @@ TEST_CASE("each poll tells what changed since the last good answer, and nothing 
        "status changed, trays changed, trays came, conditions went 32"},
       {"another order of the same codes", Told("65,65", "2\r2\r1\r6", "1\r100\r2\r50"), ""},
       {"switched offline", Told("65", "1\r6\r2\r2", "1\r100\r2\r50", false),
-       "status changed, state changed"},
+       "status changed, conditions came"},
   };
   stmon::Watch watch;
   auto now = std::chrono::steady_clock::now();
@@ -112,7 +112,7 @@ TEST_CASE("metrics tell of a silent printer only since when") {
   CHECK(text.find("stmon_up{printer=\"test\"} 1\n") != std::string::npos);
   CHECK(text.find("code=\"32\",reason=\"media-empty\",severity=\"error\"} 1\n") !=
         std::string::npos);
-  CHECK(text.find("code=\"777\",reason=\"other\",severity=\"error\"} 1\n") != std::string::npos);
+  CHECK(text.find("code=\"777\",reason=\"other\",severity=\"warning\"} 1\n") != std::string::npos);
   CHECK(text.find("tray=\"4\",name=\"Tray 2\"} 50\n") != std::string::npos);
 
   auto silent = Failed(stmon::Outcome::Silent);
