@@ -119,6 +119,20 @@ TEST_CASE("a chain without an end is written to, and given an end where it is re
         "fonts[13 19] tray=4 trays[3:8:100 4:4:100] bins[1:1 4:1] options[105:0 1:0]");
 }
 
+TEST_CASE("no list of the print manager's becomes longer than a walk along it may be") {
+  constexpr uint32_t kLongest = 65535;
+  const std::vector<const void*> items(kLongest + 2, nullptr);
+  const PMItemGroup group{kLongest + 2, items.data(), STM_ABSENT};
+  PrintManager manager;
+  manager.record.fontInfo = manager.record.statusListInfo = &group;
+  test::Record record;
+  CHECK(PatSetPMPrnInfoToPrnInfo(&record, &manager.record, GroupFonts | GroupStatusList) == 1);
+  CHECK(record.fontCount == kLongest);
+  CHECK(record.statusCount == kLongest);
+  CHECK(test::Values(record.fontList, &FontNode::fontCode).size() == kLongest);
+  CHECK(test::Values(record.statusList, &StatusNode::code).size() == kLongest);
+}
+
 TEST_CASE("a text that is marked as absent is no text to any call") {
   const auto absent = const_cast<char*>(kAbsentText);
   const auto markAll = [absent](test::Record& record) {

@@ -16,30 +16,29 @@
 namespace stm {
 
 struct NameIndex {
-  std::array<uint8_t, 256> rowOfByte;  // of the name that is this one byte
-  std::array<uint8_t, 256> firstRow;   // of those with a longer name of this slot
+  std::array<int32_t, 256> codeOfByte;  // of the name that is this one byte
+  std::array<uint8_t, 256> firstRow;    // of the longer names with this slot
 };
 
-// The slot of a name of two bytes or more. Its length, its first byte and its last two tell most
-// names of a table apart. The factor was found by trial: it gives each keyword of a reply a slot of
-// its own, so that the walk from there ends where it begins.
+// The slot of a name of two bytes or more, from its length, its first byte and its last two. The
+// factors were found by trial: with them each keyword of a reply has a slot of its own, so that the
+// walk which begins at a slot's first row ends there.
 constexpr uint8_t SlotOf(std::string_view name) {
   const auto byte = [name](size_t at) -> uint32_t { return static_cast<uint8_t>(name[at]); };
   const auto size = static_cast<uint32_t>(name.size());
-  const uint32_t key = byte(0) | size << 8 | byte(size - 2) << 16 | byte(size - 1) << 24;
-  return static_cast<uint8_t>(key * 0x1A60DD17u >> 24);
+  return static_cast<uint8_t>(9 * (byte(0) + byte(size - 1)) + 4 * (byte(size - 2) + size));
 }
 
 template <const auto& kTable>
 inline constexpr NameIndex kNameIndex = [] {
   constexpr uint8_t kClosingRow = std::size(kTable) - 1;
   NameIndex index;
-  index.rowOfByte.fill(kClosingRow);
+  index.codeOfByte.fill(kTable[kClosingRow].code);
   index.firstRow.fill(kClosingRow);
   for (uint8_t row = kClosingRow; row-- > 0;) {
     const std::string_view name = kTable[row].name;
     if (name.size() == 1) {
-      index.rowOfByte[static_cast<uint8_t>(name[0])] = row;
+      index.codeOfByte[static_cast<uint8_t>(name[0])] = kTable[row].code;
     } else {
       index.firstRow[SlotOf(name)] = row;
     }
@@ -82,10 +81,12 @@ template <const auto& kTable>
 template <const auto& kTable>
 inline int32_t LookupNameCode(std::string_view name) {
   constexpr const NameIndex& kIndex = kNameIndex<kTable>;
-  if (name.size() == 1) return kTable[kIndex.rowOfByte[static_cast<uint8_t>(name[0])]].code;
-  if (name.empty()) return std::end(kTable)[-1].code;
-  const NameCode* row = FindName(name, kTable + kIndex.firstRow[SlotOf(name)]);
-  return row->name.data() ? row->code : CodeUpToZero<kTable>(name);
+  if (name.size() == 1) return kIndex.codeOfByte[static_cast<uint8_t>(name[0])];
+  if (!name.empty()) {
+    const NameCode* row = FindName(name, kTable + kIndex.firstRow[SlotOf(name)]);
+    if (row->name.data()) return row->code;
+  }
+  return CodeUpToZero<kTable>(name);
 }
 
 }  // namespace stm

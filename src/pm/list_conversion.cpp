@@ -21,7 +21,10 @@ void ReplaceVersionText(char*& field, const char* text) {
 template <class Item, class Node, class Fill>
 bool FillList(Node*& list, uint32_t& count, const PMItemGroup* group, Fill fill) {
   if (!HasItems(group) || group->count == 0) return false;
-  list = ResizeItemList(list, group->count);
+  ListWriter<Node> nodes = BeginList(list);
+  for (uint32_t left = std::min(group->count, kLongestList); left > 0 && KeepItem(nodes); --left) {
+  }
+  EndList(nodes);
   if (!list) return false;
   count = 0;
   for (Node& node : Items(list))
@@ -101,54 +104,45 @@ void ConvertBins(PrnInfoEx* info, const PMPrnInfo& pm) {
   info->currentBin = IsPresent(current) ? current - 1 : uint32_t{BinUnknown};
 }
 
-// A status list under construction. What cannot be allocated, or would make it longer than a list
-// can be, is neither listed nor counted.
-struct StatusChain {
-  StatusNode* head;
-  StatusNode** tail;
-  uint32_t count;
-};
-
-void Append(StatusChain& chain, uint32_t code) {
-  StatusNode* node = chain.count < kLongestList ? NewItem<StatusNode>() : nullptr;
+// What cannot be allocated, or would make the list longer than one can be, is neither listed nor
+// counted.
+void Append(PrnInfoEx* info, ListWriter<StatusNode>& statuses, uint32_t code) {
+  StatusNode* node = info->statusCount < kLongestList ? NextItem(statuses) : nullptr;
   if (!node) return;
   node->code = static_cast<uint16_t>(code);
-  *chain.tail = node;
-  chain.tail = &node->next;
-  ++chain.count;
+  ++info->statusCount;
 }
 
-void AppendOnce(StatusChain& chain, uint32_t code) {
-  if (!FindItem(chain.head, code)) Append(chain, code);
+void AppendOnce(PrnInfoEx* info, ListWriter<StatusNode>& statuses, uint32_t code) {
+  if (!FindItem(info->statusList, code)) Append(info, statuses, code);
 }
 
 // The state bits tell at most one code, and only when the network tells none.
-void AppendState(StatusChain& chain, const PMStatusInfo& status) {
+void AppendState(PrnInfoEx* info, ListWriter<StatusNode>& statuses, const PMStatusInfo& status) {
   if (IsPresent(status.netStatus)) {
-    Append(chain, PatGetStatusFromNet(status.netStatus));
+    Append(info, statuses, PatGetStatusFromNet(status.netStatus));
   } else if (!IsPresent(status.statusBits)) {
     return;
   } else if (status.statusBits & PMStatusEnergySaver) {
-    AppendOnce(chain, kStatusEnergySaver);
+    AppendOnce(info, statuses, kStatusEnergySaver);
   } else if (status.statusBits & PMStatusWarmingUp) {
-    AppendOnce(chain, kStatusWarmingUp);
+    AppendOnce(info, statuses, kStatusWarmingUp);
   } else if (status.statusBits == 0) {
-    AppendOnce(chain, kStatusReady);
+    AppendOnce(info, statuses, kStatusReady);
   }
 }
 
-// Always rebuilt: a printer that tells nothing is ready.
+// Always built anew: a printer that tells nothing is ready.
 void ConvertStatuses(PrnInfoEx* info, const PMPrnInfo& pm) {
-  StatusChain chain{nullptr, &chain.head, 0};
-  FreeItemList(info->statusList);
+  info->statusCount = 0;
+  info->statusList = FreeItemList(info->statusList);
+  ListWriter<StatusNode> statuses = BeginList(info->statusList);
   if (HasItems(pm.statusListInfo)) {
     for (uint32_t i = 0; i < pm.statusListInfo->count; ++i)
-      Append(chain, ItemOf<PMStatusItem>(*pm.statusListInfo, i).code);
+      Append(info, statuses, ItemOf<PMStatusItem>(*pm.statusListInfo, i).code);
   }
-  if (IsPresent(pm.statusInfo)) AppendState(chain, *pm.statusInfo);
-  if (chain.count == 0) Append(chain, kStatusReady);
-  info->statusList = chain.head;
-  info->statusCount = chain.count;
+  if (IsPresent(pm.statusInfo)) AppendState(info, statuses, *pm.statusInfo);
+  if (info->statusCount == 0) Append(info, statuses, kStatusReady);
 }
 
 void ConvertOptions(PrnInfoEx* info, const PMPrnInfo& pm) {

@@ -17,7 +17,7 @@ constexpr uint32_t kHeadLength = 3;
 constexpr char kEndLetter = ' ';
 constexpr uint32_t kEndLength = 2;
 
-// What ends a block, and how many bytes of one are read that goes on without its end.
+// What ends a block, and how many bytes are read of one that goes on without its end.
 enum class BlockEnd : uint32_t {
   Line = 255,          // its LF
   LineOrMarker = 256,  // its LF, or the reply's end marker
@@ -27,15 +27,18 @@ enum class BlockEnd : uint32_t {
 struct Block {
   const char* text;
   const char* end;         // where its end stands, or what is not read begins
-  bool closed;             // it has its end
-  uint32_t crCount;        // the head's among them
-  const char* stops[257];  // where the CRs stand, then `end`
+  const char* after;       // after its end; the same as `end` for a block without one
+  const char* stops[257];  // where the CRs stand, the head's among them, then `end`
+  const char** lastStop;
 };
 
+inline uint32_t CountCrs(const Block& block) {
+  return static_cast<uint32_t>(block.lastStop - block.stops);
+}
+
 // Finds the end and the fields of the block at the position, whose ESC and letter are known to be
-// there. Result: how many bytes of the reply it takes. A block that the reply cuts off says nothing
-// reliable: it takes none, and `block` is not to be read.
-inline uint32_t ScanBlock(const Input& rest, BlockEnd kind, Block& block) {
+// there. False when the reply cuts the block off: it says nothing reliable then.
+inline bool ScanBlock(const Input& rest, BlockEnd kind, Block& block) {
   const auto limit = static_cast<uint32_t>(kind);
   const uint32_t most = std::min(Left(rest), limit);
   const char* const end = rest.position + most;
@@ -56,13 +59,13 @@ inline uint32_t ScanBlock(const Input& rest, BlockEnd kind, Block& block) {
       break;
     }
   }
-  if (endLength == 0 && most < limit) return 0;
+  if (endLength == 0 && most < limit) return false;
   block.text = rest.position;
   block.end = at;
-  block.closed = endLength != 0;
-  block.crCount = static_cast<uint32_t>(stop - block.stops);
+  block.after = at + endLength;
+  block.lastStop = stop;
   *stop = at;
-  return static_cast<uint32_t>(at - rest.position) + endLength;
+  return true;
 }
 
 // What stands between a block's head and its end.
@@ -83,7 +86,7 @@ struct Fields {
 inline Fields FieldsOf(const Block& block) {
   const char* position = block.text + kHeadLength;
   const bool crInHead = block.stops[0] < position;
-  return {position, block.end + block.closed, block.stops + crInHead};
+  return {position, block.after, block.stops + crInHead};
 }
 
 // A zero byte at a field's start ends the fields as well. A CR right before the block's end does

@@ -61,17 +61,17 @@ void ParseEmulationBlock(const Block& block, Filling to) {
 // Fonts that the table does not name are not kept.
 void ParseFontBlock(const Block& block, Filling to) {
   to.record->fontCount = 0;
-  FontNode** link = &to.record->fontList;
+  ListWriter<FontNode> fonts = BeginList(to.record->fontList, to.room);
   Fields fields = FieldsOf(block);
   while (!AtEnd(fields)) {
     const int32_t code = LookupNameCode<kFontNameTable>(NextField(fields, kMostOfFont));
     if (code == 0) continue;
-    FontNode* font = NextItem(link, to.room);
+    FontNode* font = NextItem(fonts);
     if (!font) continue;
     font->fontCode = static_cast<uint16_t>(code);
     ++to.record->fontCount;
   }
-  *link = FreeItemList(*link, to.room);
+  EndList(fonts);
 }
 
 }  // namespace stm

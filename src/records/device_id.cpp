@@ -53,16 +53,16 @@ void ReadManufacturer(Filling to, Value value) {
 // string that ends early loses its last character.
 void ReadLanguages(Filling to, Value value) {
   to.record->emulationCount = 0;
-  EmulationNode** link = &to.record->emulationList;
+  ListWriter<EmulationNode> languages = BeginList(to.record->emulationList, to.room);
   while (Left(value) > 0) {
     Field code = ScanField(value, kMostOfLanguage, ',', kFieldEnd);
     if (code.delimiter == '\0') code.text.remove_suffix(1);
-    EmulationNode* language = NextItem(link, to.room);
+    EmulationNode* language = NextItem(languages);
     if (!language) continue;
     language->emulationCode = static_cast<uint16_t>(LookupNameCode<kEmulationCodeTable>(code.text));
     ++to.record->emulationCount;
   }
-  *link = FreeItemList(*link, to.room);
+  EndList(languages);
 }
 
 void ReadModel(Filling to, Value value) {

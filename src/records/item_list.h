@@ -44,18 +44,17 @@ template <class Node>
 class Items {
  public:
   explicit Items(Node* head, uint32_t most = kLongestWalk)
-      : node_(head), left_(std::min(most, kLongestWalk)) {}
+      : node_(most > 0 ? head : nullptr), left_(std::min(most, kLongestWalk)) {}
 
   Items begin() const { return *this; }
   std::default_sentinel_t end() const { return {}; }
 
   bool operator==(std::default_sentinel_t) const { return AtEnd(); }
-  bool AtEnd() const { return !node_ || left_ == 0; }
+  bool AtEnd() const { return !node_; }
   Node& operator*() const { return *node_; }
   Node* operator->() const { return node_; }
   Items& operator++() {
-    node_ = node_->next;
-    --left_;
+    node_ = --left_ > 0 ? node_->next : nullptr;
     return *this;
   }
 
@@ -102,80 +101,74 @@ Node* FreeItemList(Node* head, Room* room = nullptr) {
   return nullptr;
 }
 
-// The next node of a list that is written anew from `link` on: an old node of the right size,
-// emptied, or else a new one before it; `link` then leads behind it. Null without memory. What is
-// left at the link when all is written is the caller's to release.
+// A list as it is written, from its head on: the nodes that are there are used again, in their
+// order, then new ones are added. What is not used again is released at the end.
 template <class Node>
-Node* NextItem(Node**& link, Room* room) {
-  Node* old = *link;
-  if (old && old->nodeSize == sizeof(Node)) {
-    Node* next = old->next;
-    *old = {};
-    old->next = next;
-    old->nodeSize = sizeof(Node);
-  } else {
-    Node* added = NewItem<Node>(room);
-    if (!added) return nullptr;
-    added->next = old;
-    *link = added;
-  }
-  Node* node = *link;
-  link = &node->next;
+struct ListWriter {
+  Node** link;  // to the next node
+  Room* room;
+};
+
+template <class Node>
+ListWriter<Node> BeginList(Node*& head, Room* room = nullptr) {
+  return {&head, room};
+}
+
+// The next node as it is; zero-filled when it is a new one, null without memory.
+template <class Node>
+Node* KeepItem(ListWriter<Node>& list) {
+  if (!*list.link) *list.link = NewItem<Node>(list.room);
+  Node* node = *list.link;
+  if (node) list.link = &node->next;
   return node;
 }
 
-// A list of `count` nodes, of one node when `count` is 0; null when memory does not suffice for
-// all.
+// The next node, emptied; null without memory. One that a caller made of another size is no node to
+// write to: it stays behind a new one, for release.
 template <class Node>
-Node* AllocItemList(uint32_t count, Room* room = nullptr) {
-  Node* head = nullptr;
-  Node** link = &head;
-  for (uint32_t made = 0; made < (count ? count : 1); ++made, link = &(*link)->next) {
-    *link = NewItem<Node>(room);
-    if (!*link) return FreeItemList(head, room);
+Node* NextItem(ListWriter<Node>& list) {
+  Node* node = *list.link;
+  if (node && node->nodeSize == sizeof(Node)) {
+    Node* next = node->next;
+    *node = {};
+    node->next = next;
+    node->nodeSize = sizeof(Node);
+  } else {
+    Node* added = NewItem<Node>(list.room);
+    if (!added) return nullptr;
+    added->next = node;
+    *list.link = node = added;
   }
-  return head;
+  list.link = &node->next;
+  return node;
 }
 
-// Brings a list to `count` nodes; kept nodes keep place and contents. A count of 0 releases the
-// list. Without memory the list stays shorter.
 template <class Node>
-Node* ResizeItemList(Node* head, uint32_t count) {
-  if (count == 0) return FreeItemList(head);
-  Node** link = &head;
-  for (uint32_t held = 0; held < std::min(count, kLongestList); ++held) {
-    if (!*link) *link = NewItem<Node>();
-    if (!*link) return head;
-    link = &(*link)->next;
-  }
-  *link = FreeItemList(*link);
-  return head;
+void EndList(const ListWriter<Node>& list) {
+  *list.link = FreeItemList(*list.link, list.room);
 }
 
-// Makes room for `newCount` entries: a list of another count is released and built anew, one of the
-// same count kept with its contents. Without memory the list is empty and its count 0, so that the
-// next time builds it.
+// Builds a list of `count` nodes, and of one when `count` is 0. Without memory it is empty and its
+// count 0, so that the next time builds it.
+template <class Node>
+void BuildItemList(Node*& head, uint32_t& count, Room* room) {
+  ListWriter<Node> list = BeginList(head, room);
+  for (uint32_t left = std::max(count, 1u); left > 0; --left) {
+    if (NextItem(list)) continue;
+    head = FreeItemList(head, room);
+    count = 0;
+    return;
+  }
+}
+
+// Makes room for `newCount` entries: a list of as many is kept with its contents, any other is
+// released and built anew.
 template <class Node>
 void RebuildItemList(Node*& head, uint32_t& count, uint32_t newCount, Room* room) {
   if (newCount == count) return;
-  FreeItemList(head, room);
-  head = AllocItemList<Node>(newCount, room);
-  count = head ? newCount : 0;
-}
-
-// Unlinks and releases `node`; a node of another list is left alone. Result: the head.
-template <class Node>
-Node* RemoveItem(Node* head, Node* node) {
-  Node** link = &head;
-  for (Node& held : Items(head)) {
-    if (&held == node) {
-      *link = node->next;
-      GlobalFree(node);
-      break;
-    }
-    link = &held.next;
-  }
-  return head;
+  head = FreeItemList(head, room);
+  count = newCount;
+  BuildItemList(head, count, room);
 }
 
 }  // namespace stm

@@ -52,25 +52,6 @@ uint32_t ReadValue(Input& entries) {
   return value;
 }
 
-// The list as it is written: the latest node, and the link behind it.
-struct OptionCursor {
-  OptionNode* node;
-  OptionNode** link;
-};
-
-// Writes the option into the cursor's node, or into the next one when that is taken. Without memory
-// the option is lost.
-void AddOption(OptionCursor& cursor, Filling to, uint16_t code, uint16_t value) {
-  if (cursor.node->optionCode != 0) {
-    OptionNode* next = NextItem(cursor.link, to.room);
-    if (!next) return;
-    cursor.node = next;
-  }
-  cursor.node->optionCode = code;
-  cursor.node->optionValue = value;
-  ++to.record->optionCount;
-}
-
 }  // namespace
 
 //   1B 'A' CR  '1' LF     '0' means absent, anything else present
@@ -98,10 +79,11 @@ void ParsePresenceBlock(const Block& block, Filling to, uint16_t optionCode) {
 //              | separator, any byte
 //              letter
 //
-// Every known letter opens a node; it keeps code 0 when the value has none of its bits.
+// Every known letter opens a node; it keeps code 0 when the value has none of the letter's bits.
+// Further codes take nodes of their own. Without memory a code is lost.
 void ParseOptionBlock(const Block& block, Filling to) {
   to.record->optionCount = 0;
-  OptionCursor cursor{nullptr, &to.record->optionList};
+  ListWriter<OptionNode> options = BeginList(to.record->optionList, to.room);
   Input entries = BodyOf(block);
   while (Left(entries) > 0) {
     const OptionRow& row =
@@ -109,15 +91,19 @@ void ParseOptionBlock(const Block& block, Filling to) {
     Skip(entries, 2);
     const uint32_t value = ReadValue(entries);
     if (row.kind == OptionKind::None) continue;
-    cursor.node = NextItem(cursor.link, to.room);
-    if (!cursor.node) continue;
-    if (row.kind == OptionKind::Code) AddOption(cursor, to, row.codes[0], 0);
-    if (row.kind == OptionKind::CodeWithValue)
-      AddOption(cursor, to, row.codes[0], static_cast<uint16_t>(value));
-    for (uint32_t bits = value & row.bits; bits != 0; bits &= bits - 1)
-      AddOption(cursor, to, row.codes[std::countr_zero(bits)], 0);
+    OptionNode* node = NextItem(options);
+    if (!node) continue;
+    if (row.kind == OptionKind::CodeWithValue) node->optionValue = static_cast<uint16_t>(value);
+    uint32_t bits = row.kind == OptionKind::CodePerBit ? value & row.bits : 1;
+    for (const uint16_t* codes = row.codes; bits != 0; bits &= bits - 1) {
+      OptionNode* free = node->optionCode == 0 ? node : NextItem(options);
+      if (!free) continue;
+      node = free;
+      node->optionCode = codes[std::countr_zero(bits)];
+      ++to.record->optionCount;
+    }
   }
-  *cursor.link = FreeItemList(*cursor.link, to.room);
+  EndList(options);
 }
 
 }  // namespace stm

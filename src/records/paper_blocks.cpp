@@ -45,23 +45,25 @@ constexpr EntryRule<BinNode> kBinRule = {
 //              |    value
 //              id
 //
-// Values go to the node with the entry's id. The k-th id that no node has yet takes the k-th node
-// from the head; when the nodes are used up, such an entry is dropped. A CR right before the LF
-// opens an entry without id and value. There are half as many entries as CRs, since the head's
-// stands for the one that the last value lacks.
+// Each id and each value is followed by a CR, but for the last value; the CR of the head makes up
+// for it, so that there are two CRs an entry.
+//
+// A value goes to the node that has the entry's id. For an id that no node has, the next node is
+// taken, from the head on, and gets this id; when all nodes have been taken, the entry is dropped.
+// A CR right before the LF opens an entry whose id and value are empty.
 template <const auto& rule>
 void ParseEntries(const Block& block, Filling to) {
-  RebuildItemList(to.record->*rule.list, to.record->*rule.count, block.crCount / 2, to.room);
-  Items unnamed(to.record->*rule.list);
+  RebuildItemList(to.record->*rule.list, to.record->*rule.count, CountCrs(block) / 2, to.room);
+  Items next(to.record->*rule.list);
 
   Fields fields = FieldsOf(block);
   while (!AtEnd(fields)) {
     const auto key = static_cast<uint16_t>(rule.idOf(NextField(fields, kMostOfField)));
     const uint16_t value = rule.valueOf(NextField(fields, kMostOfField));
     auto* node = FindItem(to.record->*rule.list, key);
-    if (!node && !unnamed.AtEnd()) {
-      node = &*unnamed;
-      ++unnamed;
+    if (!node && !next.AtEnd()) {
+      node = &*next;
+      ++next;
       node->*rule.key = key;
     }
     if (node) node->*rule.field = value;

@@ -7,10 +7,9 @@
 
 namespace stm {
 
-uint32_t FreePrnInfoEx(TemporaryRecord* temporary) {
-  if (!temporary) return 2;
-  const PrnInfoEx& record = temporary->record;
-  Room* room = &temporary->room;
+namespace {
+
+void ReleaseContents(const PrnInfoEx& record, Room* room) {
   for (char* text : {record.modelName, record.manufacturer, record.description, record.versionText1,
                      record.versionText2, record.versionText3})
     ReleaseText(text, room);
@@ -20,6 +19,14 @@ uint32_t FreePrnInfoEx(TemporaryRecord* temporary) {
   FreeItemList(record.trayList, room);
   FreeItemList(record.binList, room);
   FreeItemList(record.optionList, room);
+}
+
+}  // namespace
+
+// What lies in the room goes with it.
+uint32_t FreePrnInfoEx(TemporaryRecord* temporary) {
+  if (!temporary) return 2;
+  if (temporary->room.overflowed) ReleaseContents(temporary->record, &temporary->room);
   GlobalFree(temporary);
   return 0;
 }

@@ -50,11 +50,10 @@ uint32_t WalkReply(Input rest, Filling to) {
     }
     const BlockRow& row = RowOf<kBlocks, &BlockRow::letter>(static_cast<uint8_t>(letter));
     if (!row.parse) break;
-    const uint32_t taken = ScanBlock(rest, row.end, block);
-    if (taken == 0) break;
-    row.parse(block, to);
+    if (!ScanBlock(rest, row.end, block)) break;
+    rest.position = block.after;
     groups |= row.groups;
-    rest.position += taken;
+    row.parse(block, to);
   }
   return groups;
 }

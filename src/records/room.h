@@ -11,7 +11,8 @@
 namespace stm {
 
 struct Room {
-  uint32_t taken;  // bytes in use from the start; the rest is zero
+  uint32_t taken;   // bytes in use from the start; the rest is zero
+  bool overflowed;  // what did not fit came from global memory
   alignas(void*) uint8_t bytes[1200];
 };
 
@@ -22,10 +23,13 @@ inline bool HasBlock(const Room& room, const void* block) {
 
 // A zero-filled block, from `room` when there is one with as much left; null without memory.
 inline void* TakeBlock(Room* room, size_t size) {
-  if (!room || size > sizeof room->bytes - room->taken) return GlobalAlloc(GPTR, size);
-  void* block = room->bytes + room->taken;
-  room->taken += static_cast<uint32_t>(size + alignof(void*) - 1) & ~(alignof(void*) - 1);
-  return block;
+  if (room && size <= sizeof room->bytes - room->taken) {
+    void* block = room->bytes + room->taken;
+    room->taken += static_cast<uint32_t>(size + alignof(void*) - 1) & ~(alignof(void*) - 1);
+    return block;
+  }
+  if (room) room->overflowed = true;
+  return GlobalAlloc(GPTR, size);
 }
 
 // Releases a block. What lies in `room` stays taken until the room goes.

@@ -26,40 +26,30 @@ Codes CodesOf(const OptionNode* head) {
 
 }  // namespace
 
-TEST_CASE("a fresh list has a node at least, each of its own size") {
-  TrayNode* one = stm::AllocItemList<TrayNode>(0);
-  REQUIRE(one);
-  CHECK(one->next == nullptr);
-  CHECK(one->nodeSize == sizeof(TrayNode));
-  CHECK(stm::FreeItemList(one) == nullptr);
-  OptionNode* three = stm::AllocItemList<OptionNode>(3);
-  CHECK(test::Values(three, &OptionNode::nodeSize) == Codes(3, sizeof(OptionNode)));
-  stm::FreeItemList(three);
-  CHECK(stm::FreePrnInfoEx(nullptr) == 2);
-}
-
-TEST_CASE("a resized list keeps its first nodes") {
+TEST_CASE("a list with room for its entries has a node at least, each of its own size") {
   struct {
     const char* why;
     Codes held;
     uint32_t count;
+    uint32_t newCount;
     Codes expected;
   } const rows[] = {
-      {"grow", {7, 8, 9}, 5, {7, 8, 9, 0, 0}},
-      {"shrink to the head", {7, 8, 9}, 1, {7}},
-      {"equal", {7, 8}, 2, {7, 8}},
-      {"from nothing", {}, 2, {0, 0}},
-      {"to nothing", {7, 8}, 0, {}},
-      {"nothing to nothing", {}, 0, {}},
+      {"for no entry, before any", {}, 0, 0, {}}, {"for no entry", {7}, 1, 0, {0}},
+      {"for more", {7, 8}, 2, 3, {0, 0, 0}},      {"for less", {7, 8}, 2, 1, {0}},
+      {"for as many", {7, 8}, 2, 2, {7, 8}},      {"for as many as the count says", {7}, 2, 2, {7}},
   };
   for (const auto& row : rows) {
     CAPTURE(row.why);
     OptionNode* head = OptionsOf(row.held);
-    OptionNode* resized = stm::ResizeItemList(head, row.count);
-    CHECK(CodesOf(resized) == row.expected);
-    if (head && row.count > 0) CHECK(resized == head);
-    stm::FreeItemList(resized);
+    uint32_t count = row.count;
+    stm::RebuildItemList(head, count, row.newCount, nullptr);
+    CHECK(count == row.newCount);
+    CHECK(CodesOf(head) == row.expected);
+    for (const OptionNode& node : stm::Items(head))
+      CHECK(node.nodeSize == sizeof node);
+    stm::FreeItemList(head);
   }
+  CHECK(stm::FreePrnInfoEx(nullptr) == 2);
 }
 
 TEST_CASE("nodes are found by index and by their 16-bit key") {
@@ -77,59 +67,61 @@ TEST_CASE("nodes are found by index and by their 16-bit key") {
 TEST_CASE("a chain that leads back into itself is walked, cut and left, but not released twice") {
   OptionNode* head = OptionsOf({1, 2, 3});
   OptionNode* const nodes[] = {head, head->next, head->next->next};
-  OptionNode* stranger = OptionsOf({2});
   nodes[2]->next = nodes[1];
   CHECK(stm::FindItem(head, 9) == nullptr);
   CHECK(stm::ItemAt(head, stm::kLongestWalk - 1) == nodes[1]);
   CHECK(stm::ItemAt(head, stm::kLongestWalk) == nullptr);
-  CHECK(stm::RemoveItem(head, stranger) == head);
   CHECK(stm::FreeItemList(head) == nullptr);
-  CHECK(stm::ResizeItemList(head, 2) == head);
+  stm::ListWriter<OptionNode> list = stm::BeginList(head);
+  CHECK(stm::KeepItem(list) == nodes[0]);
+  CHECK(stm::KeepItem(list) == nodes[1]);
+  stm::EndList(list);
   CHECK(CodesOf(head) == Codes{1, 2});
-  nodes[1]->next = head;
-  CHECK(stm::ResizeItemList(head, 5) == head);
-  CHECK(CodesOf(head) == Codes{1});
-  for (OptionNode* node : {nodes[0], nodes[1], nodes[2], stranger})
+  for (OptionNode* node : nodes)
     GlobalFree(node);
 }
 
-TEST_CASE("no list grows as long as the longest walk") {
-  FontNode* fonts = stm::ResizeItemList<FontNode>(nullptr, 0xFFFFFFFF);
-  CHECK(stm::ItemAt(fonts, stm::kLongestList - 1));
-  CHECK(!stm::ItemAt(fonts, stm::kLongestList));
-  stm::FreeItemList(fonts);
+TEST_CASE("a list is written over its old nodes, as they are or emptied, then into new ones") {
+  struct {
+    const char* why;
+    Codes held;
+    uint32_t kept;
+    uint32_t emptied;
+    Codes expected;
+  } const rows[] = {
+      {"nothing into nothing", {}, 0, 0, {}},
+      {"nothing", {7, 8}, 0, 0, {}},
+      {"less than there is", {7, 8, 9}, 1, 1, {7, 0}},
+      {"as much as there is", {7, 8}, 1, 1, {7, 0}},
+      {"more, the old ones kept", {7, 8}, 3, 1, {7, 8, 0, 0}},
+      {"more, the old ones emptied", {7, 8}, 0, 3, {0, 0, 0}},
+  };
+  for (const auto& row : rows) {
+    CAPTURE(row.why);
+    OptionNode* head = OptionsOf(row.held);
+    const OptionNode* const old = head;
+    stm::ListWriter<OptionNode> list = stm::BeginList(head);
+    for (uint32_t i = 0; i < row.kept; ++i)
+      stm::KeepItem(list)->optionValue = 1;
+    for (uint32_t i = 0; i < row.emptied; ++i)
+      CHECK(stm::NextItem(list)->optionValue == 0);
+    stm::EndList(list);
+    CHECK(CodesOf(head) == row.expected);
+    if (old && !row.expected.empty()) CHECK(head == old);
+    stm::FreeItemList(head);
+  }
 }
 
-TEST_CASE("a removed node leaves the others linked; a stranger is left alone") {
-  OptionNode* head = OptionsOf({1, 2, 3});
-  OptionNode* stranger = OptionsOf({2});
-  CHECK(stm::RemoveItem(head, stranger) == head);
-  CHECK(CodesOf(head) == Codes{1, 2, 3});
-  CHECK(CodesOf(stranger) == Codes{2});
-  head = stm::RemoveItem(head, head->next);
-  CHECK(CodesOf(head) == Codes{1, 3});
-  head = stm::RemoveItem(head, head);
-  CHECK(CodesOf(head) == Codes{3});
-  CHECK(stm::RemoveItem(head, head) == nullptr);
-  stm::FreeItemList(stranger);
-}
-
-TEST_CASE("a list that is written anew takes its old nodes, emptied, then new ones") {
-  OptionNode* head = stm::AllocItemList<OptionNode>(2);
-  OptionNode* const old[] = {head, head->next};
-  old[1]->optionCode = old[1]->optionValue = 7;
-  OptionNode** link = &head;
-  CHECK(stm::NextItem(link, nullptr) == old[0]);
-  CHECK(stm::NextItem(link, nullptr) == old[1]);
-  CHECK(old[1]->optionCode == 0);
-  CHECK(old[1]->optionValue == 0);
-  CHECK(old[1]->nodeSize == sizeof(OptionNode));
-  old[1]->next = reinterpret_cast<OptionNode*>(stm::NewItem<EmulationNode>());
-  OptionNode* added = stm::NextItem(link, nullptr);
+TEST_CASE("a node of another size is not written over but replaced") {
+  OptionNode* head = OptionsOf({7});
+  head->next = reinterpret_cast<OptionNode*>(stm::NewItem<EmulationNode>());
+  stm::ListWriter<OptionNode> list = stm::BeginList(head);
+  stm::NextItem(list);
+  OptionNode* added = stm::NextItem(list);
   CHECK(added->nodeSize == sizeof(OptionNode));
-  CHECK(added->next->nodeSize == sizeof(EmulationNode));  // of another size: left for release
-  CHECK(old[1]->next == added);
-  CHECK(link == &added->next);
+  CHECK(added->next->nodeSize == sizeof(EmulationNode));
+  stm::EndList(list);
+  CHECK(test::Values(head, &OptionNode::nodeSize) == Codes(2, sizeof(OptionNode)));
   stm::FreeItemList(head);
 }
 
@@ -140,6 +132,7 @@ TEST_CASE("blocks come from the room as long as it lasts, zero-filled, then from
   for (void*& block : blocks) {
     block = stm::TakeBlock(&room, 271);
     CHECK(stm::HasBlock(room, block) == (&block != std::end(blocks) - 1));
+    CHECK(room.overflowed != stm::HasBlock(room, block));
     CHECK(std::memcmp(block, before.bytes, 271) == 0);
     std::memset(block, 0xA5, 271);
   }
