@@ -76,7 +76,7 @@ UNTRACED uint32_t Combine(uint32_t rop, uint32_t source, uint32_t destination) {
   return result;
 }
 
-UNTRACED uint32_t ColorAt(const stm::Dib& dib, int index) {
+UNTRACED uint32_t ColourAt(const stm::Dib& dib, int index) {
   if (index < 0 || static_cast<uint32_t>(index) >= dib.paletteCount) return 0;
   const uint8_t* entry = dib.palette + 4 * index;
   return entry[0] | entry[1] << 8 | entry[2] << 16;
@@ -97,7 +97,7 @@ UNTRACED void RequirePixels(const stm::Dib& dib, const stm::Placement& to, uint3
       const bool inside = x >= to.x && x < to.x + to.width && y >= to.y && y < to.y + to.height &&
                           fromX >= 0 && fromX < dib.width && fromY >= 0 && fromY < dib.height;
       const uint32_t expected =
-          inside ? Combine(rop, ColorAt(dib, indices[fromY * dib.width + fromX]), kBackground)
+          inside ? Combine(rop, ColourAt(dib, indices[fromY * dib.width + fromX]), kBackground)
                  : kBackground;
       Require(pixels[y * kWidth + x] == expected);
     }

@@ -19,8 +19,8 @@ struct Pixels {
   bool operator==(const Pixels& other) const = default;
 };
 
-inline Pixels Plain(int32_t width, int32_t height, uint32_t color) {
-  return {width, height, std::vector<uint32_t>(static_cast<size_t>(width * height), color)};
+inline Pixels Plain(int32_t width, int32_t height, uint32_t colour) {
+  return {width, height, std::vector<uint32_t>(static_cast<size_t>(width * height), colour)};
 }
 
 #ifdef _WIN32
@@ -69,8 +69,8 @@ class PictureDialog {
  public:
   static constexpr int32_t kControl = 1009;
 
-  // The control shows `color` at first.
-  PictureDialog(int32_t width, int32_t height, uint32_t color = 0x00FFFFFF)
+  // The control shows `colour` at first.
+  PictureDialog(int32_t width, int32_t height, uint32_t colour = 0x00FFFFFF)
       : width_(width), height_(height) {
 #ifdef _WIN32
     handle_ = CreateWindowA("STATIC", "", WS_POPUP, 0, 0, width, height, nullptr, nullptr, nullptr,
@@ -84,7 +84,7 @@ class PictureDialog {
     handle_ = HostCreateDialog();
     REQUIRE(HostAddPicture(handle_, kControl, width, height));
 #endif
-    write(Plain(width, height, color));
+    write(Plain(width, height, colour));
   }
   PictureDialog(const PictureDialog&) = delete;
   PictureDialog& operator=(const PictureDialog&) = delete;

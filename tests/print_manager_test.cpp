@@ -126,7 +126,7 @@ struct GroupCase {
   const char* why;
   void (*set)(PrintManager& manager);
   uint32_t groups;
-  const char* list;  // the list-based record, behind "tag=404 sized"
+  const char* list;  // the list-based record, after "tag=404 sized"
   uint32_t result;   // of the flat conversion; the other always succeeds
   const char* flat;  // what changes beside structSize
 };
@@ -396,7 +396,7 @@ TEST_CASE("arrays of the flat record hold what fits and count what they hold") {
     CHECK(info.emulationCount == stored(32));
     CHECK(info.fontCount == stored(32));
     CHECK(info.statusCount == std::min<size_t>(length + 2, 32));
-    // The neighbours right behind the full arrays.
+    // The neighbours right after the full arrays.
     CHECK(info.emulationList[info.emulationCount - 1] == (length > 32 ? 13 : 14));
     CHECK(info.structSize == PrnInfoSize);
     CHECK(info.modelName[0] == test::PoisonedPrnInfo().modelName[0]);

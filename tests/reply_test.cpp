@@ -141,7 +141,7 @@ const ReplyCase kReplies[] = {
       "A\r1\n\x1B"
       "A\r1\n"},
      "options[4:0]"},
-    {"the duplex unit behind option 4",
+    {"the duplex unit after option 4",
      {"\x1B"
       "A\r1\n\x1B"
       "C\rx\n"},

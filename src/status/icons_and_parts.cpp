@@ -40,13 +40,12 @@ uint32_t IconCode(const PrnInfoEx& info) {
   return listsNothing ? 0 : GetDominantStatus(info);
 }
 
-// The entry is delivered without a record, too: the drawing has none.
+// A call without a record fails and delivers the entry all the same: the drawing has no record.
 uint32_t CopyPart(bool hasRecord, uint8_t index, PrnPart* part) {
-  const uint32_t result = hasRecord ? 1 : FailWith(PatErrorNullRecord);
   if (!part) return FailWith(PatErrorNullRecord);
-  if (index >= kPartCount) return hasRecord ? FailWith(PatErrorNotFound) : 0;
-  *part = kPartsTable[index];
-  return result;
+  if (index < kPartCount) *part = kPartsTable[index];
+  if (!hasRecord) return FailWith(PatErrorNullRecord);
+  return index < kPartCount ? 1 : FailWith(PatErrorNotFound);
 }
 
 }  // namespace

@@ -2,6 +2,7 @@
 // twins ask the same tables and neither looks at its record.
 #include <cstring>
 
+#include "records/row_index.h"
 #include "status/last_error.h"
 #include "status/paper_table.h"
 #include "stmdata/stmdata.h"
@@ -9,51 +10,26 @@
 namespace stm {
 namespace {
 
-// An unknown code is told by the result alone; the error value says that nothing went wrong.
-uint32_t AnswerNone() {
-  return FailWith(PatErrorNone);
-}
-
-template <class Row>
-const Row* FindRow(const Row* row, uint32_t code) {
-  while (row->code != -1 && static_cast<uint32_t>(row->code) != code)
-    ++row;
-  return row->code == -1 ? nullptr : row;
-}
-
-const char* PictureOf(const PaperRow& row) {
-  switch (row.kind) {
-    case kNormal:
-      return "BMP_PAPER_NORMAL";
-    case kRotated:
-      return "BMP_PAPER_R";
-    default:
-      return nullptr;
-  }
-}
-
-// Empties the buffer, then copies `text`; a null text is no answer.
+// Empties the buffer, then copies `text`. No text is no answer, which the result alone tells: the
+// error value says that nothing went wrong.
 uint32_t Answer(const char* text, char* buffer) {
   if (!buffer) return FailWith(PatErrorNullRecord);
   buffer[0] = '\0';
-  if (!text) return AnswerNone();
+  if (!text) return FailWith(PatErrorNone);
   std::memcpy(buffer, text, std::strlen(text) + 1);
   return 1;
 }
 
 uint32_t PaperName(uint32_t code, char* buffer) {
-  const PaperRow* row = FindRow(kPaperTable, code);
-  return Answer(row ? row->name : nullptr, buffer);
+  return Answer(RowOf<kPaperTable, &PaperRow::code>(code).name, buffer);
 }
 
 uint32_t PaperBitmap(uint32_t code, char* buffer) {
-  const PaperRow* row = FindRow(kPaperTable, code);
-  return Answer(row ? PictureOf(*row) : nullptr, buffer);
+  return Answer(kPaperPictures[RowOf<kPaperTable, &PaperRow::code>(code).kind], buffer);
 }
 
 uint32_t TrayName(uint32_t code, char* buffer) {
-  const TrayRow* row = FindRow(kTrayTable, code);
-  return Answer(row ? row->name : nullptr, buffer);
+  return Answer(RowOf<kTrayTable, &TrayRow::code>(code).name, buffer);
 }
 
 }  // namespace

@@ -16,6 +16,12 @@ inline constexpr uint16_t kNoPicture = 0;
 inline constexpr uint16_t kRotated = 1;
 inline constexpr uint16_t kNormal = 2;
 
+inline constexpr const char* kPaperPictures[] = {
+    nullptr,             // no picture
+    "BMP_PAPER_R",       // rotated
+    "BMP_PAPER_NORMAL",  // normal
+};
+
 inline constexpr PaperRow kPaperTable[] = {
     //  code  name  orientation
     {0, "***", kNoPicture},                           // unknown size
@@ -60,7 +66,7 @@ inline constexpr PaperRow kPaperTable[] = {
     {39, "***", kNoPicture},
     {40, "***", kNoPicture},
     {41, " ", kNoPicture},  // tray not in place
-    {-1, nullptr, 0},       // closing row: ends every look-up, also one for -1
+    {-1, nullptr, 0},       // closing row: every other code
 };
 static_assert(sizeof kPaperTable / sizeof kPaperTable[0] == 43);
 
@@ -77,7 +83,7 @@ inline constexpr TrayRow kTrayTable[] = {
     {6, "\xC4\xDA\xB2\x34"},                              // tray 4
     {7, "\x91\xE5\x97\xCA\x8B\x8B\x8E\x86\xC4\xDA\xB2"},  // large-capacity tray
     {1, "\x8E\xE8\x8D\xB7\x82\xB5\xC4\xDA\xB2"},          // bypass tray
-    {-1, nullptr},                                        // closing row
+    {-1, nullptr},                                        // closing row: every other code
 };
 
 }  // namespace stm

@@ -3,7 +3,7 @@
 namespace stm {
 namespace {
 
-constexpr uint32_t kEmptyLevel = 1;  // printers tell an empty tray as 0 or 1
+constexpr uint32_t kEmptyLevel = 1;  // this or less is no paper
 
 // False, and `found` untouched, when no tray has the id.
 bool FindTray(TrayView trays, uint32_t id, TrayPaper* found) {

@@ -24,7 +24,7 @@ def printed(*command, **more):
 
 
 def plain(text):
-    """Lines without the indentation that they share, nor blanks behind them."""
+    """Lines without the indentation that they share, nor blanks after them."""
     lines = [line.rstrip() for line in text.strip("\n").split("\n")]
     shared = min((len(line) - len(line.lstrip()) for line in lines if line), default=0)
     return [line[shared:] for line in lines]

@@ -21,7 +21,7 @@ def read(path):
 
 
 def layout(text):
-    """Line ends, the last one apart, and the blanks behind the text."""
+    """Line ends, the last one apart, and the blanks after the text."""
     return text.count("\n"), text.endswith("\n"), len(text) - len(text.rstrip(" "))
 
 

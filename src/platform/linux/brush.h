@@ -6,7 +6,7 @@
 namespace stm {
 
 // The bits of a pixel that are its colour.
-inline constexpr uint32_t kColorMask = 0x00FFFFFF;
+inline constexpr uint32_t kColourMask = 0x00FFFFFF;
 
 // What a source colour makes of a destination pixel: (pixel & keep) ^ flip. Every operation on
 // source and destination has this form once the source is known.
@@ -16,7 +16,7 @@ struct Stroke {
 };
 
 constexpr bool ChangesNothing(const Stroke& stroke) {
-  return stroke.keep == kColorMask && stroke.flip == 0;
+  return stroke.keep == kColourMask && stroke.flip == 0;
 }
 
 constexpr uint32_t Brushed(uint32_t pixel, const Stroke& stroke) {

@@ -18,7 +18,7 @@ uint32_t Long(const uint8_t* p) {
   return Word(p) | Word(p + 2) << 16;
 }
 
-uint32_t Color(const uint8_t* p) {
+uint32_t Colour(const uint8_t* p) {
   return Word(p) | static_cast<uint32_t>(p[2]) << 16;
 }
 
@@ -30,13 +30,13 @@ struct Operation {
 
 // A truth table: result bit number (source bit * 2 + destination bit).
 Operation OperationOf(uint32_t truth) {
-  const auto spread = [&](uint32_t bit) { return truth >> bit & 1 ? kColorMask : 0; };
+  const auto spread = [&](uint32_t bit) { return truth >> bit & 1 ? kColourMask : 0; };
   return {{spread(0) ^ spread(1), spread(0)}, {spread(2) ^ spread(3), spread(2)}};
 }
 
-Stroke StrokeOf(const Operation& operation, uint32_t color) {
-  return {(operation.zeros.keep & ~color) | (operation.ones.keep & color),
-          (operation.zeros.flip & ~color) | (operation.ones.flip & color)};
+Stroke StrokeOf(const Operation& operation, uint32_t colour) {
+  return {(operation.zeros.keep & ~colour) | (operation.ones.keep & colour),
+          (operation.zeros.flip & ~colour) | (operation.ones.flip & colour)};
 }
 
 // One stroke more than a byte can select: the black of pixels that the bytes leave out.
@@ -98,10 +98,10 @@ void PaintIndices(const Row& row, int32_t x, int32_t end, const uint8_t* bytes,
 }
 
 // Each pixel has a colour of its own.
-void PaintColors(const Row& row, int32_t x, int32_t end, const uint8_t* bytes,
-                 const Operation& operation) {
+void PaintColours(const Row& row, int32_t x, int32_t end, const uint8_t* bytes,
+                  const Operation& operation) {
   for (int32_t c = std::max(x, row.left); c < end; ++c)
-    row.pixels[c] = Brushed(row.pixels[c], StrokeOf(operation, Color(bytes + 3 * (c - x))));
+    row.pixels[c] = Brushed(row.pixels[c], StrokeOf(operation, Colour(bytes + 3 * (c - x))));
 }
 
 // ---- Uncompressed lines -------------------------------------------------------------------------
@@ -117,7 +117,7 @@ void PaintPlainLine(const Painter& painter, uint32_t bitsPerPixel, const Row& ro
     case 8:
       return PaintIndices<8>(row, x, row.right, bytes, painter.strokes);
     default:
-      return PaintColors(row, x, row.right, bytes, painter.operation);
+      return PaintColours(row, x, row.right, bytes, painter.operation);
   }
 }
 
@@ -340,7 +340,7 @@ bool PaintDib(const Dib& dib, const Frame& frame, const Placement& to, uint32_t 
   const uint32_t selectable = dib.bitsPerPixel == 24 ? 0 : 1u << dib.bitsPerPixel;
   for (uint32_t i = 0; i < selectable; ++i)
     painter.strokes[i] =
-        StrokeOf(painter.operation, i < dib.paletteCount ? Color(dib.palette + 4 * i) : 0);
+        StrokeOf(painter.operation, i < dib.paletteCount ? Colour(dib.palette + 4 * i) : 0);
 
   switch (dib.compression) {
     case DibRle8:

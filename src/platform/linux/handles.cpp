@@ -7,7 +7,8 @@ namespace {
 
 constexpr uint32_t kMostHandles = 4096;
 
-// The object claims the place, its number opens it to look-ups; 0 as long as there is none.
+// Who stores an object has the place. Look-ups find it once its handle is stored, which is 0 before
+// and afterwards.
 struct Entry {
   std::atomic<Object*> object;
   std::atomic<uint32_t> handle;

@@ -1,6 +1,6 @@
-// Handles of windows, device contexts and bitmaps. A handle is a number that names a place
-// in one table and the entry that was made there. The table itself knows the number and the kind,
-// so that null, foreign and released handles are told from good ones without touching an object.
+// Handles of windows, device contexts and bitmaps. A handle is a number: a place in one table, and
+// which of all the entries made so far is meant. The table itself knows the number and the kind, so
+// that null, foreign and released handles are told from good ones without touching an object.
 #pragma once
 
 #include <cstdint>

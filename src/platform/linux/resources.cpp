@@ -95,12 +95,14 @@ const unsigned char* ReadEntry(const unsigned char* at, Entry* entry) {
   return Align(entry->data + dataSize);
 }
 
-// Null before strings. The look-up needs an order, not a particular one.
+// Ids, which have no text, come before strings. Any order would do for the look-up.
 int CompareTexts(const unsigned char* left, const unsigned char* right) {
   if (left == right) return 0;
   if (!left || !right) return left ? 1 : -1;
-  while (Get<uint16_t>(left) == Get<uint16_t>(right) && Get<uint16_t>(left) != 0)
-    left += 2, right += 2;
+  while (Get<uint16_t>(left) == Get<uint16_t>(right) && Get<uint16_t>(left) != 0) {
+    left += 2;
+    right += 2;
+  }
   return Get<uint16_t>(left) - Get<uint16_t>(right);
 }
 
@@ -169,7 +171,7 @@ void ReadAsked(const char* name, AskedLabel* asked) {
 
 using Languages = std::span<const Entry>;
 
-// What there is of a title; empty without any.
+// The entries of a title, one a language; none when there is no such title.
 Languages FindTitle(const Title& title) {
   const Group* end = imageIndex.groups + imageIndex.groupCount;
   const Group* group = std::lower_bound(
@@ -188,8 +190,8 @@ const Entry* FindOneOf(Languages entries, std::initializer_list<LANGID> language
   return nullptr;
 }
 
-// The languages to try, in order. A caller without a wish gets that of the thread's texts, English,
-// and at last any; a caller with one gets it or a neutral one.
+// A caller that asks for no language gets that of the thread's texts, else English, else any. One
+// that asks for a language gets that one, else its primary language, else the neutral one.
 const Entry* ChooseLanguage(Languages entries, LANGID language) {
   constexpr LANGID kPrimaryMask = 0x3FF;
   const auto primary = static_cast<LANGID>(language & kPrimaryMask);

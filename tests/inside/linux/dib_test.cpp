@@ -17,7 +17,7 @@ using stm::Placement;
 namespace {
 
 // Palette entry n is the colour of the letter that stands for n: 'a' + n; black is written '.'.
-uint32_t ColorOf(char letter) {
+uint32_t ColourOf(char letter) {
   return letter == '.' ? 0 : static_cast<uint32_t>(letter) * 0x010203;
 }
 
@@ -33,16 +33,16 @@ struct Header {
   int32_t height;
   uint32_t depth;
   uint32_t compression;
-  uint32_t colors;
+  uint32_t colours;
 };
 
 std::string Packed(const Header& header, const std::string& bits, uint32_t headerSize = 40) {
   std::string bytes = Little(headerSize, 4) + Little(static_cast<uint32_t>(header.width), 4) +
                       Little(static_cast<uint32_t>(header.height), 4) + Little(1, 2) +
                       Little(header.depth, 2) + Little(header.compression, 4) + Little(0, 12) +
-                      Little(header.colors, 4) + Little(0, 4);
-  for (uint32_t i = 0; i < header.colors; ++i)
-    bytes += Little(ColorOf(static_cast<char>('a' + i)), 3) + '\xFF';
+                      Little(header.colours, 4) + Little(0, 4);
+  for (uint32_t i = 0; i < header.colours; ++i)
+    bytes += Little(ColourOf(static_cast<char>('a' + i)), 3) + '\xFF';
   return bytes + bits;
 }
 
@@ -52,7 +52,7 @@ std::string Text(const std::vector<uint32_t>& pixels, size_t width) {
   for (size_t i = 0; i < pixels.size(); ++i) {
     char letter = '.';
     for (char c = 'a'; c <= 'z'; ++c) {
-      if (ColorOf(c) == pixels[i]) letter = c;
+      if (ColourOf(c) == pixels[i]) letter = c;
     }
     if (letter == '.' && pixels[i] != 0) letter = pixels[i] == 0x00FFFFFF ? '#' : '?';
     text += letter;
@@ -118,7 +118,7 @@ const PictureCase kPictures[] = {
     {"plain, 8 bits, top row first", {3, -2, 8, DibPlain, 4}, "\1\2\3\0\3\2\1"s, "bcd/dcb/"},
     {"plain, 24 bits",
      {1, 2, 24, DibPlain, 0},
-     Little(ColorOf('x'), 4) + Little(ColorOf('y'), 3),
+     Little(ColourOf('x'), 4) + Little(ColourOf('y'), 3),
      "y/x/"},
     {"plain rows cut off are black", {4, 2, 8, DibPlain, 4}, "\1\2\3\1\1\2\3"s, "..../bcdb/"},
 };
@@ -221,7 +221,7 @@ TEST_CASE("a blit is clipped to the frame, the bitmap and its rectangle") {
 
 TEST_CASE("raster operations combine source and destination bit by bit") {
   // One pixel each as a run, in a pair and alone, so that no way of painting is left out.
-  const uint32_t source = ColorOf('c');
+  const uint32_t source = ColourOf('c');
   const uint32_t destination = 0x00F0335A;
   struct Case {
     uint32_t rop;
@@ -260,7 +260,7 @@ TEST_CASE("runs of every length are combined pixel by pixel") {
     bits.insert(0, 1, static_cast<char>(length));
     const std::string bytes = Packed({length, 1, 8, DibRle8, 2}, bits);
     const Dib dib = Whole(bytes);
-    const uint32_t source = ColorOf('b');
+    const uint32_t source = ColourOf('b');
     // Every pixel has a colour of its own, so that none is taken for its neighbour.
     std::vector<uint32_t> before(static_cast<size_t>(length + 2));
     for (size_t i = 0; i < before.size(); ++i)
