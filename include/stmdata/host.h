@@ -1,8 +1,8 @@
 /* Linux only: the few platform functions and types that a caller of libstmdata.so needs.
 
-   They bear the names, meanings and (in 32 bits) calling convention that they have on Windows, where
-   the callee removes the arguments, so that one caller's source serves both systems; on Windows
-   <windows.h> has them. */
+   They bear the names and meanings that they have on Windows, where <windows.h> has them, so that
+   one caller's source serves both systems. In 32 bits they also have the calling convention of
+   Windows: the callee removes the arguments. */
 #ifndef STMDATA_HOST_H
 #define STMDATA_HOST_H
 
