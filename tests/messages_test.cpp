@@ -254,26 +254,35 @@ TEST_CASE("every status has its texts in every language") {
 }
 
 TEST_CASE("texts and colour names are cut where the buffer ends, at every size") {
-  test::SetThreadLanguage(1033);
   Select("JP");
   test::BothRecords records({.statuses = {69, 71}});
+  // A beginning of the whole, that lacks no more than a character of three bytes did not fit in.
+  const auto checkCut = [](const std::string& whole, const std::string& cut, size_t room) {
+    CHECK(whole.substr(0, cut.size()) == cut);
+    CHECK(cut.size() + 2 >= std::min(whole.size(), room));
+  };
+  for (const LANGID language : {LANGID{1033}, LANGID{1041}}) {
+    test::SetThreadLanguage(language);
+    const std::string flat = Ask(PatGetDetailString, &records.flat);
+    for (uint32_t size = 4; size <= flat.size() + 2; ++size) {
+      CAPTURE(size);
+      test::GuardedBytes buffer(std::string(size, 'x'));
+      CHECK(PatGetDetailString(&records.flat, buffer.data(), size) == 1);
+      checkCut(flat, buffer.data(), size - 1);
+    }
+  }
+  test::SetThreadLanguage(0);
   // Japanese: the colours are single bytes, so that only the text can hold half a character.
-  const std::string flat = Ask(PatGetDetailString, &records.flat);
   const std::string list = Ask(PatGetDetailString_Ex, &records.list);
   REQUIRE(list.size() > 20);
   const size_t colours = list.rfind('\n');
-  for (int32_t size = 2; size <= static_cast<int32_t>(std::max(flat.size(), list.size())) + 2;
-       ++size) {
+  for (int32_t size = 2; size <= static_cast<int32_t>(list.size()) + 2; ++size) {
     CAPTURE(size);
     const auto room = static_cast<size_t>(size) - 1;
-    test::GuardedBytes flatBuffer(std::string(static_cast<size_t>(size), 'x'));
-    CHECK(PatGetDetailString(&records.flat, flatBuffer.data(), static_cast<uint32_t>(size)) == 1);
-    CHECK(flatBuffer.data() == flat.substr(0, room));
-    test::GuardedBytes listBuffer(std::string(static_cast<size_t>(size), 'x'));
-    CHECK(PatGetDetailString_Ex(&records.list, listBuffer.data(), size) == 1);
-    const std::string cut = listBuffer.data();
-    CHECK(list.substr(0, cut.size()) == cut);
-    CHECK(cut.size() + 1 >= std::min(list.size(), room));
+    test::GuardedBytes buffer(std::string(static_cast<size_t>(size), 'x'));
+    CHECK(PatGetDetailString_Ex(&records.list, buffer.data(), size) == 1);
+    const std::string cut = buffer.data();
+    checkCut(list, cut, room);
     if (room > colours) CHECK(cut == list.substr(0, room));
   }
 }

@@ -48,6 +48,7 @@ BOOL STM_CALL BitBlt(HDC target, int x, int y, int width, int height, HDC source
 }
 
 #define LOCALE_IDEFAULTANSICODEPAGE 0x1004u
+#define CP_UTF8 65001u  // the system's ANSI code page at times, here never
 #define MAKEINTRESOURCEA(id) (reinterpret_cast<char*>(static_cast<uintptr_t>(id)))
 #define RT_BITMAP MAKEINTRESOURCEA(2)
 #define RT_ICON MAKEINTRESOURCEA(3)
@@ -76,6 +77,9 @@ int32_t STM_CALL WideCharToMultiByte(UINT codePage, DWORD flags, const WCHAR* un
                                      char* buffer, int32_t size, const char* defaultCharacter,
                                      BOOL* usedDefault);
 BOOL STM_CALL IsDBCSLeadByteEx(UINT codePage, uint8_t byte);
+
+// The number of CP_ACP.
+UINT STM_CALL GetACP(void);
 
 // In place, CP_ACP.
 char* STM_CALL CharUpperA(char* text);

@@ -24,7 +24,8 @@ const LocaleRow& FindLocale(const char* code) {
 
 UINT AskCodePage(LANGID language) {
   char digits[256];
-  if (!GetLocaleInfoA(language, LOCALE_IDEFAULTANSICODEPAGE, digits, sizeof digits)) return 0;
+  if (!GetLocaleInfoA(language, LOCALE_IDEFAULTANSICODEPAGE, digits, sizeof digits))
+    return kNoCodePage;
   return static_cast<UINT>(std::strtoul(digits, nullptr, 10));
 }
 

@@ -20,7 +20,10 @@ uint32_t LoadLocalizedString(uint32_t id, char* buffer, int32_t size);
 // The same in a language that the caller has asked for once, so that the pieces of an answer agree.
 uint32_t LoadStringIn(LANGID language, uint32_t id, char* buffer, int32_t size);
 
+// A character of any code page takes this many bytes at most: of UTF-8, that is.
+inline constexpr size_t kWidestCharacter = 4;
+
 // How many bytes of the whole characters at `text` stand within `most` bytes.
-size_t CountWholeCharacters(uint32_t codePage, const char* text, size_t most);
+size_t CountWholeCharacters(UINT codePage, const char* text, size_t most);
 
 }  // namespace stm

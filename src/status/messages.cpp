@@ -156,12 +156,12 @@ void AppendSuffix(const Suffix& suffix, const Target& target) {
   target.buffer[length + kept] = '\0';
 }
 
-// A single free byte may be where half a character had no room: asked again with room enough, the
-// text, which was there a moment ago, tells. Every text of the library is shorter than this.
+// A few free bytes may be where a character had no room: asked again with room enough, the text,
+// which was there a moment ago, tells. Every text of the library is shorter than this.
 bool WasCut(const Statement& statement, uint32_t id, const Target& target) {
   constexpr int32_t kRoomForAnyText = 512;
   const size_t length = std::strlen(target.buffer);
-  if (length + 2 != static_cast<size_t>(target.size)) return false;
+  if (length + kWidestCharacter < static_cast<size_t>(target.size)) return false;
   char whole[kRoomForAnyText] = "";
   statement.load(id, {whole, kRoomForAnyText, target.language});
   return std::strlen(whole) > length;

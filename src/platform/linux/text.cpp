@@ -23,7 +23,7 @@ UINT PageOfLanguage(LANGID language) {
 }
 
 const CodePage* ThreadCodePage() {
-  return FindCodePage(PageOfLanguage(kNeutral));
+  return FindCodePage(GetACP());
 }
 
 const CodePage* AskedCodePage(UINT number) {
@@ -124,6 +124,10 @@ int32_t STM_CALL MultiByteToWideChar(UINT codePage, DWORD flags, const char* tex
 BOOL STM_CALL IsDBCSLeadByteEx(UINT codePage, uint8_t byte) {
   const stm::CodePage* page = stm::AskedCodePage(codePage);
   return page && stm::IsLeadByte(*page, byte);
+}
+
+UINT STM_CALL GetACP(void) {
+  return stm::PageOfLanguage(stm::kNeutral);
 }
 
 char* STM_CALL CharUpperA(char* text) {
