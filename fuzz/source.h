@@ -81,6 +81,33 @@ class Source {
 
 // ---- Records ------------------------------------------------------------------------------------
 
+inline void DrawNumber(Source& source, uint16_t& field) {
+  field = static_cast<uint16_t>(source.Number());
+}
+inline void DrawNode(Source& source, StatusNode& node) {
+  DrawNumber(source, node.code);
+}
+inline void DrawNode(Source& source, EmulationNode& node) {
+  DrawNumber(source, node.emulationCode);
+}
+inline void DrawNode(Source& source, TrayNode& node) {
+  DrawNumber(source, node.trayId);
+  DrawNumber(source, node.paperCode);
+  DrawNumber(source, node.paperLevel);
+}
+inline void DrawNode(Source& source, BinNode& node) {
+  DrawNumber(source, node.binId);
+  DrawNumber(source, node.binState);
+}
+inline void DrawNode(Source& source, OptionNode& node) {
+  DrawNumber(source, node.optionCode);
+  DrawNumber(source, node.optionValue);
+}
+inline void DrawNode(Source& source, FontNode& node) {
+  DrawNumber(source, node.fontCode);
+  DrawNumber(source, node.reserved);
+}
+
 // A chain of up to 40 nodes from GlobalAlloc with any contents, and a count that often fits it.
 template <class Node>
 void DrawList(Source& source, Node*& head, uint32_t& count) {
@@ -89,10 +116,7 @@ void DrawList(Source& source, Node*& head, uint32_t& count) {
   for (uint32_t i = 0; i < length; ++i) {
     auto* node = static_cast<Node*>(GlobalAlloc(GPTR, sizeof(Node)));
     node->nodeSize = sizeof(Node);
-    uint16_t fields[3] = {static_cast<uint16_t>(source.Number()), 0, 0};
-    if (sizeof(Node) <= 20) fields[1] = static_cast<uint16_t>(source.Number());
-    if (sizeof(Node) == 20) fields[2] = static_cast<uint16_t>(source.Number());
-    std::memcpy(reinterpret_cast<char*>(node) + 8, fields, sizeof(Node) == 20 ? 6 : 4);
+    DrawNode(source, *node);
     *link = node;
     link = &node->next;
   }
