@@ -6,9 +6,9 @@
 #   bench/instructions.sh [ROW...]      all rows, or those with these names
 set -u
 cd "$(dirname "$0")/.."
-program=build/linux/stmdata_bench
+program=build/native/stmdata_bench
 few=5 many=105
-[ -x "$program" ] || { echo "build it first: cmake --preset linux && cmake --build --preset linux" >&2; exit 1; }
+[ -x "$program" ] || { echo "build it first: cmake --preset native && cmake --build --preset native" >&2; exit 1; }
 
 # count WHAT ROW CALLS: instructions of the whole run.
 count() {

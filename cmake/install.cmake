@@ -1,4 +1,5 @@
 # What `cmake --install` lays down, for both systems the same tree; docs/packaging.md shows it.
+# Components: library, development, monitor, documents.
 include(GNUInstallDirs)
 include(CMakePackageConfigHelpers)
 
@@ -6,15 +7,19 @@ set(package_folder ${CMAKE_INSTALL_LIBDIR}/cmake/stmdata)
 
 # ---- Library and headers ----------------------------------------------------------------------
 
-install(DIRECTORY include/stmdata DESTINATION ${CMAKE_INSTALL_INCLUDEDIR} FILES_MATCHING PATTERN *.h)
+install(DIRECTORY include/stmdata DESTINATION ${CMAKE_INSTALL_INCLUDEDIR} COMPONENT development
+  FILES_MATCHING PATTERN *.h)
 if(WIN32)
   # The linker's own import library is no use to clients, so the target is installed without it.
-  install(TARGETS stmdata RUNTIME DESTINATION ${CMAKE_INSTALL_BINDIR}
+  install(TARGETS stmdata RUNTIME DESTINATION ${CMAKE_INSTALL_BINDIR} COMPONENT library
     ARCHIVE DESTINATION ${CMAKE_INSTALL_LIBDIR} EXCLUDE_FROM_ALL)
-  install(FILES ${CMAKE_BINARY_DIR}/libstmdata.dll.a DESTINATION ${CMAKE_INSTALL_LIBDIR})
-  install(FILES ${CMAKE_BINARY_DIR}/stmdata.lib DESTINATION ${CMAKE_INSTALL_LIBDIR} OPTIONAL)
+  install(FILES ${CMAKE_BINARY_DIR}/libstmdata.dll.a DESTINATION ${CMAKE_INSTALL_LIBDIR}
+    COMPONENT development)
+  install(FILES ${CMAKE_BINARY_DIR}/stmdata.lib DESTINATION ${CMAKE_INSTALL_LIBDIR}
+    COMPONENT development OPTIONAL)
 else()
-  install(TARGETS stmdata LIBRARY DESTINATION ${CMAKE_INSTALL_LIBDIR})
+  install(TARGETS stmdata LIBRARY DESTINATION ${CMAKE_INSTALL_LIBDIR} COMPONENT library
+    NAMELINK_COMPONENT development)
 endif()
 
 # ---- Programs ---------------------------------------------------------------------------------
@@ -23,7 +28,7 @@ add_custom_target(installed DEPENDS stmdata)  # what the tree below needs, witho
 foreach(program IN ITEMS stmon stmonw)
   if(TARGET ${program})
     add_dependencies(installed ${program})
-    install(TARGETS ${program} RUNTIME DESTINATION ${CMAKE_INSTALL_BINDIR})
+    install(TARGETS ${program} RUNTIME DESTINATION ${CMAKE_INSTALL_BINDIR} COMPONENT monitor)
     # In a tree that may lie anywhere the programs find the library by its place beside them.
     file(RELATIVE_PATH to_library /${CMAKE_INSTALL_BINDIR} /${CMAKE_INSTALL_LIBDIR})
     set_target_properties(${program} PROPERTIES INSTALL_RPATH $ORIGIN/${to_library})
@@ -39,12 +44,14 @@ configure_package_config_file(cmake/stmdata-config.cmake.in stmdata-config.cmake
 # Refuses a project of another width than the library's.
 write_basic_package_version_file(stmdata-config-version.cmake COMPATIBILITY SameMajorVersion)
 install(FILES ${CMAKE_CURRENT_BINARY_DIR}/stmdata-config.cmake
-  ${CMAKE_CURRENT_BINARY_DIR}/stmdata-config-version.cmake DESTINATION ${package_folder})
+  ${CMAKE_CURRENT_BINARY_DIR}/stmdata-config-version.cmake DESTINATION ${package_folder}
+  COMPONENT development)
 
 file(RELATIVE_PATH to_prefix /${CMAKE_INSTALL_LIBDIR}/pkgconfig /)
 string(REGEX REPLACE "/+$" "" to_prefix "${to_prefix}")
 configure_file(cmake/stmdata.pc.in stmdata.pc @ONLY)
-install(FILES ${CMAKE_CURRENT_BINARY_DIR}/stmdata.pc DESTINATION ${CMAKE_INSTALL_LIBDIR}/pkgconfig)
+install(FILES ${CMAKE_CURRENT_BINARY_DIR}/stmdata.pc DESTINATION ${CMAKE_INSTALL_LIBDIR}/pkgconfig
+  COMPONENT development)
 
 # ---- To read ----------------------------------------------------------------------------------
 
@@ -55,12 +62,13 @@ else()
   set(doc_folder ${CMAKE_INSTALL_DATAROOTDIR}/doc/stmdata)
   set(examples_parent ${doc_folder})
 endif()
-install(FILES README.md CHANGELOG.md DESTINATION ${doc_folder})
-install(FILES docs/copyright DESTINATION ${doc_folder})
+install(FILES README.md CHANGELOG.md DESTINATION ${doc_folder} COMPONENT documents)
+install(FILES docs/copyright DESTINATION ${doc_folder} COMPONENT documents)
 # In a folder of their own, as in the source tree, so that the pages find each other.
-install(DIRECTORY docs DESTINATION ${doc_folder} FILES_MATCHING PATTERN *.md PATTERN *.[ps][nv]g)
+install(DIRECTORY docs DESTINATION ${doc_folder} COMPONENT documents
+  FILES_MATCHING PATTERN *.md PATTERN *.[ps][nv]g)
 if(NOT WIN32)
-  install(FILES docs/stmon.1 DESTINATION ${CMAKE_INSTALL_MANDIR}/man1)
+  install(FILES docs/stmon.1 DESTINATION ${CMAKE_INSTALL_MANDIR}/man1 COMPONENT monitor)
 endif()
 
 # Terms of the libraries whose code is inside stmon, and of the run-time inside the Windows programs.
@@ -78,8 +86,8 @@ foreach(name IN LISTS third_party)
   endif()
 endforeach()
 file(CONFIGURE OUTPUT third-party.txt CONTENT "@notices@" @ONLY)
-install(FILES ${CMAKE_CURRENT_BINARY_DIR}/third-party.txt DESTINATION ${doc_folder})
+install(FILES ${CMAKE_CURRENT_BINARY_DIR}/third-party.txt DESTINATION ${doc_folder} COMPONENT documents)
 
 if(EXISTS ${CMAKE_SOURCE_DIR}/examples)
-  install(DIRECTORY examples DESTINATION ${examples_parent})
+  install(DIRECTORY examples DESTINATION ${examples_parent} COMPONENT documents)
 endif()

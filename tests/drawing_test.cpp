@@ -18,7 +18,7 @@ constexpr uint32_t kGround = 0x005A3C96;  // what a control shows before it is d
 
 // One list for the layers and for the pictures made of them: the checksum of each layer alone
 // (picture "layer") and of each picture after each of its layers. Where the artwork changes on
-// purpose: STMDATA_CHECKSUMS=tests/picture_checksums.inc build/linux/stmdata_tests writes it anew.
+// purpose: STMDATA_CHECKSUMS=tests/picture_checksums.inc build/native/stmdata_tests writes it anew.
 struct ChecksumRow {
   const char* picture;
   const char* layer;

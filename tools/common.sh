@@ -19,28 +19,35 @@ quietly() {
   fi
 }
 
-# need_packages NAME...: installs the Debian packages that are missing.
-need_packages() {
-  local missing=() name as_root=()
+# may_have_packages NAME...: whether these Debian packages are installed or can be. What is missing is
+# left in `missing`, and in `as_root` what installs it.
+may_have_packages() {
+  local name
+  missing=() as_root=()
   for name in "$@"; do
     [ "$(dpkg-query -W -f '${db:Status-Abbrev}' "$name" 2>/dev/null)" = "ii " ] || missing+=("$name")
   done
-  [ ${#missing[@]} -gt 0 ] || return 0
-  if [ "$(id -u)" -ne 0 ]; then
-    if sudo -n true 2>/dev/null; then
-      as_root=(sudo)
-    else
-      say "Packages are missing. As root: apt-get install ${missing[*]}"
-      return 1
-    fi
+  [ ${#missing[@]} -gt 0 ] && [ "$(id -u)" -ne 0 ] || return 0
+  if sudo -n true 2>/dev/null; then
+    as_root=(sudo)
+  else
+    say "Packages are missing. As root: apt-get install ${missing[*]}"
+    return 1
   fi
+}
+
+# need_packages NAME...: installs the Debian packages that are missing.
+need_packages() {
+  local missing as_root
+  may_have_packages "$@" || return 1
+  [ ${#missing[@]} -gt 0 ] || return 0
   say "Installing packages, a few minutes the first time: ${missing[*]}"
   quietly "apt-get update" "${as_root[@]}" apt-get update &&
     quietly "apt-get install" "${as_root[@]}" env DEBIAN_FRONTEND=noninteractive \
       apt-get install -y --no-install-recommends "${missing[@]}"
 }
 
-build_packages=(g++ g++-multilib binutils-mingw-w64-i686 cmake ninja-build libcli11-dev
+build_packages=(g++ binutils-mingw-w64-i686 cmake ninja-build libcli11-dev
   nlohmann-json3-dev libasio-dev libutfcpp-dev libstb-dev)
 
 # build PRESET [TARGET...]: configures and builds; incremental.

@@ -1,7 +1,9 @@
 #!/usr/bin/env bash
 # The files of an installed tree, sorted, from the table in docs/packaging.md: the one written list.
 #
-#   tools/layout.sh linux|windows|debian|zip
+#   tools/layout.sh linux|linux-library|windows|debian|zip
+#
+# linux-library is what a Linux build without the monitor installs.
 set -eu
 cd "$(dirname "$0")/.."
 version=$(sed -nE 's/^project\(.* VERSION ([0-9.]+).*/\1/p' CMakeLists.txt)
@@ -29,11 +31,12 @@ rows() {
 
 case "${1:-}" in
   linux) files 3 ;;
+  linux-library) files 3 | grep -E '^(include|lib)/' ;;
   windows) files 4 ;;
   debian) files 5 | sed -E 's,^,usr/,; s,^usr/lib/,usr/lib/i386-linux-gnu/,' ;;
   zip) files 6 ;;
   *)
-    sed -n '4s/^# *//p' "$0" >&2
+    sed -n '4,6s/^# *//p' "$0" >&2
     exit 2
     ;;
 esac | LC_ALL=C sort

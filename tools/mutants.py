@@ -41,7 +41,7 @@ WANTED_PERCENT = 90
 
 # ---- Builds -------------------------------------------------------------------------------------
 
-PLAIN = "-m32 -O1 -w"
+PLAIN = "-O1 -w"
 SANITIZED = f"{PLAIN} -fsanitize=address,undefined -fno-sanitize-recover=all"
 
 # What to build, and what then to run: the library first, since most changes are noticed before the
@@ -64,7 +64,7 @@ class Build:
         if not (self.out / "build.ninja").exists():
             say(f"building {name}, a minute or two")
         self.run_checked("cmake", "-S", self.tree, "-B", self.out, "-G", "Ninja", "-DCMAKE_BUILD_TYPE=",
-                         f"-DCMAKE_CXX_FLAGS={flags}", "-DCMAKE_C_FLAGS=-m32", "-DCMAKE_ASM_FLAGS=-m32",
+                         f"-DCMAKE_CXX_FLAGS={flags}",
                          "-DCMAKE_LINK_DEPENDS_NO_SHARED=ON")
         self.run_checked("ninja", "-C", self.out, "-j2", *{name for step in STEPS for name in step[:2]})
         before = resource.getrusage(resource.RUSAGE_CHILDREN)
@@ -106,7 +106,7 @@ class Build:
             if self.processor_seconds:
                 resource.setrlimit(resource.RLIMIT_CPU, (self.processor_seconds, self.processor_seconds))
             if self.name == "plain":  # the sanitizers reserve more than they use
-                resource.setrlimit(resource.RLIMIT_AS, (1 << 30, 1 << 30))
+                resource.setrlimit(resource.RLIMIT_DATA, (1 << 30, 1 << 30))
 
         process = subprocess.Popen([self.out / program, "--abort-after=1", *filter.split()], cwd=self.out,
                                    stdout=subprocess.DEVNULL, stderr=subprocess.DEVNULL, preexec_fn=limit)

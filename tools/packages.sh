@@ -100,11 +100,11 @@ try_zip() {
   rm -rf "$place" && mkdir -p "$place"
   quietly "unpacking" unzip -q "dist/$zip_name.zip" -d "$place" || return 1
   (cd "$place/$zip_name" && quietly "the sums" sha256sum -c --strict SHA256SUMS) || return 1
-  if ! reason=$(tools/wine.sh available 2>&1); then
+  if ! reason=$(tools/wine.sh available 32 2>&1); then
     say "  not run: $reason"
     return 0
   fi
-  quietly "the zip's programs" tools/wine.sh run sh -eu -c '
+  quietly "the zip's programs" tools/wine.sh run 32 sh -eu -c '
     cd "$0/$1/bin"
     wine stmon.exe --version >answer
     grep -F "$2" answer

@@ -21,54 +21,51 @@ count_program() {
   [ "$2" -eq 0 ] || grep -vE '^\s*$' "$log" | tail -n 60 >&2
 }
 
-# programs NAME FOLDER: the test programs of a Linux build.
+library_tests=(stmdata_tests stmdata_inside_tests)
+all_tests=("${library_tests[@]}" stmon_tests)
+
+# programs PRESET TEST...: test programs of a Linux build.
 programs() {
-  local program log
+  local preset=$1 program log
+  shift
   log=$(mktemp)
-  for program in "$2"/*_tests; do
-    "$program" >"$log" 2>&1
-    count_program "$1 $(basename "$program")" "$log"
+  for program in "$@"; do
+    "build/$preset/$program" >"$log" 2>&1
+    count_program "$preset $program" "$log"
   done
   rm -f "$log"
 }
 
-# The Windows programs run in one visit to the Wine root, each on the virtual display.
+# windows_programs PRESET WIDTH: all test programs of a Windows build, in one visit to the Wine of that
+# width, on a virtual display.
 windows_programs() {
-  local program reason name
-  if ! reason=$(tools/wine.sh available 2>&1); then
+  local preset=$1 width=$2 program reason
+  if ! reason=$(tools/wine.sh available "$width" 2>&1); then
     [ "${CI:-}" != true ] || { count_failure "no Wine, and CI skips nothing: $reason"; return; }
-    for program in build/windows/*_tests.exe; do skipped=$((skipped + 1)); done
+    skipped=$((skipped + ${#all_tests[@]}))
     say "  skipped: the Windows programs, because $reason; run ./test as root to have them"
     return
   fi
-  rm -f build/windows/*.log
-  tools/wine.sh run sh -c '
-    Xvfb :99 -screen 0 1280x1024x24 >/dev/null 2>&1 &
-    export DISPLAY=:99
-    for program in build/windows/*_tests.exe; do
-      (cd build/windows && wine "$(basename "$program")") >"${program%.exe}.log" 2>&1
-    done
-    kill $!' || count_failure "the Wine root"
-  for program in build/windows/*_tests.exe; do
-    name=$(basename "$program" .exe)
-    [ -f "build/windows/$name.log" ] && count_program "windows $name" "build/windows/$name.log"
+  rm -f "build/$preset"/*.log
+  tools/wine.sh run "$width" xvfb-run -a -s "-screen 0 1280x1024x24" sh -c '
+    cd "$0" && for program; do
+      wine "$program.exe" >"$program.log" 2>&1
+    done' "build/$preset" "${all_tests[@]}" || count_failure "the Wine of $width bits"
+  for program in "${all_tests[@]}"; do
+    count_program "$preset $program" "build/$preset/$program.log"
   done
 }
 
-# valgrind_checks: the test programs of the Linux build under Memcheck, which finds unset memory, wrong
+# valgrind_checks: the test programs of the native build under Memcheck, which finds unset memory, wrong
 # accesses and leaks, and the tests with threads under Helgrind, which finds data races. One test each.
+# Both need the debug symbols of the C library.
 valgrind_checks() {
-  local program reason
-  if ! reason=$(tools/valgrind.sh available 2>&1); then
-    [ "${CI:-}" != true ] || { count_failure "no Valgrind, and CI skips nothing: $reason"; return; }
-    skipped=$((skipped + 1))
-    say "  skipped, because $reason; run ./test as root to have them"
-    return
-  fi
-  for program in build/linux/*_tests; do
+  local program
+  need_packages valgrind libc6-dbg || { count_failure "no Valgrind"; return; }
+  for program in "${all_tests[@]}"; do
     valgrind_check memcheck "$program" --leak-check=full
   done
-  for program in build/linux/stmdata_tests build/linux/stmdata_inside_tests; do
+  for program in "${library_tests[@]}"; do
     valgrind_check helgrind "$program" -- --source-file='*threads_test.cpp'
   done
 }
@@ -83,13 +80,13 @@ valgrind_check() {
   done
   shift
   log=$(mktemp)
-  if tools/valgrind.sh run --tool="$tool" --error-exitcode=9 "${options[@]}" "$program" "$@" >"$log" 2>&1 &&
+  if valgrind --tool="$tool" --error-exitcode=9 "${options[@]}" "build/native/$program" "$@" >"$log" 2>&1 &&
     grep -q 'ERROR SUMMARY: 0 errors .*' "$log"; then
     passed=$((passed + 1))
-    say "  $tool $(basename "$program"): $(sed -nE 's/.*test cases: *([0-9]+).*/\1/p' "$log") test cases, clean"
+    say "  $tool $program: $(sed -nE 's/.*test cases: *([0-9]+).*/\1/p' "$log") test cases, clean"
   else
     tail -n 60 "$log" >&2
-    count_failure "$(basename "$program") under $tool"
+    count_failure "$program under $tool"
   fi
   rm -f "$log"
 }
@@ -98,7 +95,7 @@ valgrind_check() {
 coverage() {
   local report=build/coverage/report.json
   find build/coverage -name '*.gcda' -delete
-  programs coverage build/coverage
+  programs coverage "${library_tests[@]}"
   quietly "reading the counts" gcovr --root . --filter src/ --exclude-throw-branches \
     --exclude-unreachable-branches --json "$report" build/coverage/CMakeFiles/stmdata_objects.dir &&
     tools/coverage.py "$report" && passed=$((passed + 1)) || count_failure "coverage"

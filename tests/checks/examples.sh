@@ -6,7 +6,7 @@ status=0
 # check EXAMPLE LINE: the program ends with 0 and prints the line.
 check() {
   local out
-  if ! out=$(LC_ALL=C "build/linux/example_$1" 2>&1) || ! grep -qxF -- "$2" <<<"$out"; then
+  if ! out=$(LC_ALL=C "build/native/example_$1" 2>&1) || ! grep -qxF -- "$2" <<<"$out"; then
     printf '%s does not print "%s" but\n%s\n' "$1" "$2" "$out"
     status=1
   fi

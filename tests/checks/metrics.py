@@ -10,7 +10,7 @@ import subprocess
 import sys
 import tempfile
 
-STMON = pathlib.Path(__file__).resolve().parents[2] / "build/linux/stmon"
+STMON = pathlib.Path(__file__).resolve().parents[2] / "build/native/stmon"
 LABEL = r'[a-z_]+="(?:[^"\\\n]|\\[\\"n])*"'
 SAMPLE = re.compile(rf"([a-z_]+)\{{({LABEL}(?:,{LABEL})*)\}} (\S+)")
 promtool = shutil.which("promtool")
