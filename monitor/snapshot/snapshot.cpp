@@ -117,9 +117,8 @@ void AddTrayInUse(std::vector<Condition>& conditions, const Snapshot& snapshot) 
                                  [&](const Tray& each) { return each.id == id; });
   const uint32_t code = tray == snapshot.trays.end() ? 0 : TrayStatus(*tray);
   const bool reported =
-      std::any_of(conditions.begin(), conditions.end(), [&](const Condition& condition) {
-        return condition.reason->keyword == std::string_view(ReasonOf(code).keyword);
-      });
+      std::any_of(conditions.begin(), conditions.end(),
+                  [&](const Condition& condition) { return condition.reason->code == code; });
   if (code != 0 && !reported) conditions.push_back(TrayCondition(code, id));
 }
 
