@@ -4,7 +4,7 @@
 The headers are written to be read as they are. Their shape carries what doxygen wants to be told by
 marks: the first comment is the file's; a comment with dashes opens a section; a comment directly above
 declarations is theirs, also the twins'; in it `name  text` lines are arguments, `Result` the result,
-`_Ex` what the twin does differently; a comment behind a field or constant is that one's. What has no
+`_Ex` what the twin does differently; a comment after a field or constant is that one's. What has no
 comment and is no function is left out."""
 import re
 import sys
@@ -55,7 +55,7 @@ def document(text, declaration="", run=""):
 
 
 def fields(unit):
-    """Comments behind fields and constants."""
+    """Comments after fields and constants."""
     out = []
     for line in unit:
         line = re.sub(r"(;)\s*/\*\s*(\d+)\s*(.*?)\s*\*/",

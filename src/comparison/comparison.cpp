@@ -11,7 +11,7 @@
 namespace stm {
 namespace {
 
-// A number that one side does not know says nothing against the other's.
+// A number that either record lacks agrees with every other.
 bool AgreeWhereKnown(uint32_t first, uint32_t second) {
   return !IsPresent(first) || !IsPresent(second) || first == second;
 }

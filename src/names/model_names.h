@@ -9,9 +9,9 @@ namespace stm {
 // The printer that this library serves.
 inline constexpr NameCode kServedModel = {"ZENTA C210", 103};
 
-// M are the monochrome, W the wide-carriage, C the colour printers; PS adds the page description
-// language, N the network port, D the duplex unit. What differs in its fittings alone keeps its
-// code. Names have at most 31 characters.
+// M are the monochrome, W the wide-carriage, C the colour printers. PS adds the page description
+// language and keeps the code; N adds the network port and D the duplex unit, with codes of their
+// own. Names have at most 31 characters.
 inline constexpr NameCode kModelNameTable[] = {
     {"ZENTA M80", 0},       // 8 pages a minute
     {"ZENTA M80 PS", 0},    //

@@ -19,7 +19,7 @@ static_assert(kStoredEntries == std::extent_v<decltype(PrnInfo::trayLevelList)> 
 
 constexpr uint32_t kTrayMissingFlag = 0x4;
 
-// The level doubles as a mark: 1 and 41 say the same as those paper codes.
+// Two of the levels are no percentages but marks: 1 and 41 mean what they mean as paper codes.
 constexpr PaperLevelRow kNetPaperLevels[] = {
     // flags  level
     {0x002, PaperNone},                    // no paper
@@ -56,7 +56,8 @@ bool IsCurrent(const NetInfoList& list, size_t index) {
   return list.currentIndex > 0 && static_cast<size_t>(list.currentIndex) == index + 1;
 }
 
-// Entries keep their own index: an absent one leaves a gap that the counts do not cover.
+// Each entry is stored at its own index. The place of an absent one is left as it is, and the
+// counts are of those that are there.
 void SetTrays(PrnInfo* info, const NetInfoList& list) {
   const auto entries = StoredEntriesOf(list, list.entries);
   info->trayCount = 0;

@@ -48,7 +48,8 @@ struct PrinterState {
 };
 PrinterState StateOf(uint32_t statusBits);
 
-// Name before alternative name; a name that is there but unknown is not tried further.
+// The code of the name or, where that is absent, of the alternative name. A name that no row has
+// does not lead on to the alternative.
 uint32_t TrayCode(const PMInputTray& tray);
 uint32_t BinCode(const PMOutputBin& bin);
 uint32_t EmulationCode(const PMEmulation& emulation);

@@ -1,5 +1,6 @@
-// The print manager's record into the flat one. What is in use is stored as the print manager
-// numbers it, and every group tells whether its source was there.
+// The print manager's record into the flat one. The tray, bin and language in use are stored by the
+// numbers that the print manager gives them. Each group tells whether its source was there, which
+// makes the call's result.
 #include <algorithm>
 #include <iterator>
 

@@ -14,10 +14,9 @@ void ReplaceVersionText(char*& field, const char* text) {
   ReplaceText(field, text, nullptr, kVersionBytes);
 }
 
-// Brings a list to the group's length and fills each node from its item. Nodes that are already
-// there keep what the rule does not write. The length comes from the chain itself: a record may
-// claim another, and without memory the chain stays short. Result: whether the group has items and
-// the list nodes.
+// Makes the list as long as the group and fills each node from its item; a node that was there
+// keeps what `fill` does not write. Without memory the list stays shorter, and `count` is the
+// length that it has. Result: whether there was anything to fill.
 template <class Item, class Node, class Fill>
 bool FillList(Node*& list, uint32_t& count, const PMItemGroup* group, Fill fill) {
   if (!HasItems(group) || group->count == 0) return false;
@@ -62,7 +61,7 @@ void ConvertTrays(PrnInfoEx* info, const PMPrnInfo& pm) {
     node.paperLevel = static_cast<uint16_t>(PaperLevel(tray));
   };
   if (!FillList<PMInputTray>(info->trayList, info->trayCount, pm.inputTrayInfo, fill)) return;
-  // Counted from 1; position 0 - 1 is behind every list.
+  // Counted from 1. A 0 gives a position that no list reaches.
   const uint32_t current = pm.inputTrayInfo->current;
   const TrayNode* node = IsPresent(current) ? ItemAt(info->trayList, current - 1) : nullptr;
   info->currentTray = node ? node->trayId : 0;

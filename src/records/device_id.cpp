@@ -49,8 +49,8 @@ void ReadManufacturer(Filling to, Value value) {
   ReplaceText(to.record->manufacturer, TextOf(value), to.room);
 }
 
-// Codes of more than six characters are split; each piece loses its comma, the last one of a
-// string that ends early loses its last character.
+// A code that has no comma within its seven bytes, as the last one of a string that ends early,
+// loses its last character; what follows is the next code.
 void ReadLanguages(Filling to, Value value) {
   to.record->emulationCount = 0;
   ListWriter<EmulationNode> languages = BeginList(to.record->emulationList, to.room);

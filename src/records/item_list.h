@@ -13,7 +13,7 @@
 
 namespace stm {
 
-// The 16-bit key at offset 8 of each kind of node.
+// The key of each kind of node: the first field of its own.
 inline uint16_t KeyOf(const StatusNode& node) {
   return node.code;
 }
@@ -123,8 +123,8 @@ Node* KeepItem(ListWriter<Node>& list) {
   return node;
 }
 
-// The next node, emptied; null without memory. One that a caller made of another size is no node to
-// write to: it stays behind a new one, for release.
+// The next node, emptied; null without memory. A node of another size, which only a caller can have
+// made, is not written to: a new one goes before it, and the end releases it.
 template <class Node>
 Node* NextItem(ListWriter<Node>& list) {
   Node* node = *list.link;

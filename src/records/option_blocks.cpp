@@ -56,7 +56,7 @@ uint32_t ReadValue(Input& entries) {
 
 //   1B 'A' CR  '1' LF     '0' means absent, anything else present
 //
-// Nodes of code 0 are not counted: a list of such nodes only is replaced.
+// A list with the count 0 may still hold nodes, which a D block left with code 0: it is replaced.
 void ParsePresenceBlock(const Block& block, Filling to, uint16_t optionCode) {
   if (Peek(BodyOf(block)) == '0') return;
   OptionNode** link = &to.record->optionList;

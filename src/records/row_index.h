@@ -1,6 +1,6 @@
-// Tables of rows with a small code or a letter, the last of which answers for all that no other row
-// has: where the row of each one stands, found while compiling. A question asks for several codes,
-// and the tables are long.
+// Indexes of tables whose rows have a code or a letter. A question asks for several codes, and the
+// tables are long: an index, made while compiling, leads to a code's row without a walk. The last
+// row closes its table and answers for every code that no other row has.
 #pragma once
 
 #include <array>
@@ -10,8 +10,8 @@
 
 namespace stm {
 
-// The rows' places by their keys, which are below 256; another key does not compile. Of two rows
-// with a key the first counts.
+// The numbers of the rows by their keys. Keys are below 256; another one does not compile. Of two
+// rows with a key the first counts.
 template <const auto& kTable, auto kKey>
 inline constexpr auto kRowIndex = [] {
   constexpr uint8_t kClosingRow = std::size(kTable) - 1;

@@ -29,8 +29,8 @@ constexpr char kEscape = 0x1B;
 constexpr char kCarriageReturn = 0x0D;
 constexpr char kLineFeed = 0x0A;
 
-// A piece of the input up to its delimiter, in place and without a zero byte of its own. Zero bytes
-// do not end it; who compares it as a text stops at the first one.
+// A piece of the input, where it stands, up to its delimiter. A zero byte does not end it; the
+// look-up of a name takes what comes before one.
 struct Field {
   std::string_view text;  // without the delimiter
   char delimiter;         // 0 when none ended the field

@@ -29,7 +29,8 @@ uint32_t WriteName(const char* name, char* buffer) {
   return 1;
 }
 
-// Neither printing nor a missing response shows here, unless several statuses are weighed.
+// A single status shows as it is, even while the printer prints or does not respond. Of several the
+// dominant one is chosen, which may be one of these two.
 uint32_t IconCode(const PrnInfo& info) {
   return HasSeveralStatuses(info) ? GetDominantStatus(info) : info.statusCode;
 }
