@@ -42,7 +42,8 @@ Json ConditionJson(const Condition& condition) {
 Json TrayJson(const Tray& tray) {
   Json json{{"id", tray.id}, {"name", TrayLabel(tray.id)}, {"paper_code", tray.paper}};
   if (tray.paper != 0) json["paper"] = tray.paperName;
-  if (tray.level) json["level"] = *tray.level;
+  json["state"] = TrayStateWord(tray.state);
+  if (tray.percent) json["level"] = *tray.percent;
   return json;
 }
 

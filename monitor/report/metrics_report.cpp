@@ -1,3 +1,4 @@
+#include <charconv>
 #include <cstdio>
 
 #include "report/reports.h"
@@ -6,6 +7,8 @@
 
 namespace stmon {
 namespace {
+
+constexpr const char* kLastAnswer = "stmon_last_answer_timestamp_seconds";
 
 // A label's value between quotes: backslash, quote and line feed are escaped.
 std::string LabelValue(std::string_view text) {
@@ -21,81 +24,128 @@ std::string LabelValue(std::string_view text) {
   return value;
 }
 
-// Prometheus wants the samples of one name together, after one HELP and one TYPE line.
+std::string Label(const char* name, std::string_view value) {
+  return std::string(",") + name + "=\"" + LabelValue(value) + "\"";
+}
+
 struct Writer {
   std::string text;
-  std::string printer;  // label and value, as it stands in every sample
+  std::string printer;    // label and value, as it stands in every sample
+  const char* name = "";  // of the metric that was described last
 };
+
+Writer WriterFor(const Snapshot& snapshot) {
+  return {"", "printer=\"" + LabelValue(snapshot.source.name) + "\""};
+}
 
 void Describe(Writer& writer, const char* name, const char* help) {
   writer.text += std::string("# HELP ") + name + " " + help + "\n# TYPE " + name + " gauge\n";
+  writer.name = name;
 }
 
-void Sample(Writer& writer, const char* name, const std::string& labels, const std::string& value) {
-  writer.text += std::string(name) + "{" + writer.printer + labels + "} " + value + "\n";
+// Name and labels up to the value. A label is left out rather than empty, which means the same.
+std::string Series(const Writer& writer, const std::string& labels) {
+  return std::string(writer.name) + "{" + writer.printer + labels + "} ";
+}
+
+void Sample(Writer& writer, const std::string& labels, const std::string& value) {
+  writer.text += Series(writer, labels) + value + "\n";
 }
 
 void Single(Writer& writer, const char* name, const char* help, const std::string& value) {
   Describe(writer, name, help);
-  Sample(writer, name, "", value);
+  Sample(writer, "", value);
 }
 
-std::string Seconds(std::chrono::duration<double> time) {
+std::string Decimal(double value, int places) {
   char text[32];
-  std::snprintf(text, sizeof text, "%.3f", time.count());
+  std::snprintf(text, sizeof text, "%.*f", places, value);
   return text;
 }
 
+std::string Seconds(std::chrono::duration<double> time) {
+  return Decimal(time.count(), 3);
+}
+
+// A state in so many series as there are values, of which one is 1: that counts over many printers.
+void AddVerdict(Writer& writer, Verdict verdict) {
+  Describe(writer, "stmon_verdict", "1 for the verdict on the printer, 0 for each other one.");
+  for (const Verdict each :
+       {Verdict::Fine, Verdict::Attention, Verdict::CannotPrint, Verdict::Unknown})
+    Sample(writer, Label("verdict", VerdictWord(each)), each == verdict ? "1" : "0");
+}
+
 void AddConditions(Writer& writer, const Snapshot& snapshot) {
-  constexpr const char* kName = "stmon_condition";
-  Describe(writer, kName, "1 for each condition that the printer reports.");
+  if (snapshot.conditions.empty()) return;
+  Describe(writer, "stmon_condition", "1 for each condition of the printer.");
   for (const Condition& condition : snapshot.conditions) {
-    const std::string code = condition.code ? std::to_string(*condition.code) : "";
-    Sample(writer, kName,
-           ",code=\"" + code + "\",reason=\"" + condition.reason->keyword + "\",severity=\"" +
-               SeverityWord(condition.severity) + "\"",
-           "1");
+    std::string labels;
+    if (condition.code) labels += Label("code", std::to_string(*condition.code));
+    labels += Label("reason", condition.reason->keyword) +
+              Label("severity", SeverityWord(condition.severity));
+    if (const char* colour = TonerColour(condition.reason->code); *colour)
+      labels += Label("colour", colour);
+    if (condition.tray) labels += Label("tray", TrayLabel(*condition.tray));
+    Sample(writer, labels, "1");
   }
 }
 
 void AddTrays(Writer& writer, const Snapshot& snapshot) {
-  constexpr const char* kName = "stmon_tray_level";
-  bool described = false;
+  if (snapshot.trays.empty()) return;
+  Describe(writer, "stmon_tray_state",
+           "1 for the state of each tray: paper, empty, not-in-place, unknown.");
+  bool measured = false;
   for (const Tray& tray : snapshot.trays) {
-    if (!tray.level) continue;
-    if (!described) Describe(writer, kName, "Paper level of a tray as the printer reports it.");
-    described = true;
-    Sample(writer, kName,
-           ",tray=\"" + std::to_string(tray.id) + "\",name=\"" + TrayLabel(tray.id) + "\"",
-           std::to_string(*tray.level));
+    measured |= tray.percent.has_value();
+    Sample(writer, Label("tray", TrayLabel(tray.id)) + Label("state", TrayStateWord(tray.state)),
+           "1");
+  }
+  if (!measured) return;
+  Describe(writer, "stmon_tray_paper_ratio", "How full a tray is, from 0 to 1.");
+  for (const Tray& tray : snapshot.trays) {
+    if (tray.percent)
+      Sample(writer, Label("tray", TrayLabel(tray.id)), Decimal(*tray.percent / 100.0, 2));
   }
 }
 
 }  // namespace
 
 std::string MetricsReport(const Snapshot& snapshot, const LastAnswer& last_answer) {
-  Writer writer{"", "printer=\"" + LabelValue(snapshot.source.name) + "\""};
+  if (snapshot.exchange.outcome == Outcome::NotAsked) return {};
+  Writer writer = WriterFor(snapshot);
   const bool up = IsGood(snapshot);
   Single(writer, "stmon_up", "1 when the printer answered the latest poll.", up ? "1" : "0");
-  Single(writer, "stmon_verdict",
-         "0 fine, 1 needs attention soon, 2 cannot print, 3 unknown or no response.",
-         std::to_string(static_cast<int>(snapshot.verdict)));
-  Single(writer, "stmon_poll_duration_seconds", "How long the latest poll took.",
-         Seconds(snapshot.took));
-  if (last_answer) {
-    Single(writer, "stmon_last_answer_timestamp_seconds",
-           "When the printer last answered, in seconds since 1970.",
+  AddVerdict(writer, snapshot.verdict);
+  if (!snapshot.source.query.empty())
+    Single(writer, "stmon_poll_duration_seconds", "How long the latest poll took.",
+           Seconds(snapshot.took));
+  if (last_answer)
+    Single(writer, kLastAnswer, "When the printer last answered, in seconds since 1970.",
            Seconds(last_answer->time_since_epoch()));
-    Single(writer, "stmon_last_answer_age_seconds",
-           "Age of the last good answer when this was written.",
-           Seconds(snapshot.when - *last_answer));
-  }
   if (!up) return writer.text;
   Single(writer, "stmon_online", "1 when the printer says that it is online.",
          snapshot.online ? "1" : "0");
   AddConditions(writer, snapshot);
   AddTrays(writer, snapshot);
   return writer.text;
+}
+
+LastAnswer ReadLastAnswer(std::string_view metrics, const Snapshot& snapshot) {
+  Writer writer = WriterFor(snapshot);
+  writer.name = kLastAnswer;
+  const std::string series = "\n" + Series(writer, "");
+  const size_t at = metrics.find(series);
+  if (at == std::string_view::npos) return {};
+  const std::string_view value = metrics.substr(at + series.size());
+  double seconds = 0;
+  const auto [end, error] = std::from_chars(value.data(), value.data() + value.size(), seconds);
+  const std::chrono::duration<double> since(seconds);
+  // Whatever else the file holds, no answer came before 1970 or after this poll.
+  const bool good =
+      error == std::errc() && seconds >= 0 && since <= snapshot.when.time_since_epoch();
+  if (!good) return {};
+  return std::chrono::system_clock::time_point(
+      std::chrono::duration_cast<std::chrono::system_clock::duration>(since));
 }
 
 }  // namespace stmon

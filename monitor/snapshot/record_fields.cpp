@@ -70,6 +70,11 @@ constexpr OptionBit kOptionBits[] = {
 
 }  // namespace
 
+const char* TrayStateWord(TrayState state) {
+  constexpr const char* kWords[] = {"unknown", "paper", "empty", "not-in-place"};
+  return kWords[static_cast<size_t>(state)];
+}
+
 RecordFields FieldsOf(const PrnInfoEx& record) {
   RecordFields fields;
   TakeCommon(record, fields);

@@ -10,12 +10,18 @@
 
 namespace stmon {
 
+enum class TrayState { Unknown, Paper, Empty, NotInPlace };
+
 struct Tray {
   uint32_t id = 0;
   uint32_t paper = 0;             // paper code, 0 not told
   std::string paperName;          // for people; empty when the paper was not told
   std::optional<uint32_t> level;  // as the printer reports it
+  TrayState state = TrayState::Unknown;
+  std::optional<uint32_t> percent = {};  // of paper, when that is known
 };
+
+const char* TrayStateWord(TrayState state);  // "not-in-place"
 
 struct Bin {
   uint32_t id = 0;

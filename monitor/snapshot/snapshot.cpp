@@ -74,6 +74,22 @@ void TakeStatus(Snapshot& snapshot, const RecordFields& fields) {
     snapshot.currentBin = fields.currentBin;
 }
 
+TrayState StateOf(const Tray& tray) {
+  constexpr uint32_t kEmptyLevel = 1;  // and below, as the library takes it
+  if (tray.paper == PaperTrayMissing) return TrayState::NotInPlace;
+  if (tray.paper == PaperNone || (tray.level && *tray.level <= kEmptyLevel))
+    return TrayState::Empty;
+  return tray.paper != 0 || tray.level ? TrayState::Paper : TrayState::Unknown;
+}
+
+// A level is a percentage or a number whose meaning nobody knows; that of a tray that is out, or
+// without any paper, is what it was before.
+std::optional<uint32_t> PercentOf(const Tray& tray) {
+  if (tray.paper == PaperNone) return 0;
+  const bool known = tray.state != TrayState::NotInPlace && tray.level && *tray.level <= 100;
+  return known ? tray.level : std::nullopt;
+}
+
 // A field of the record means something only when its block was in the reply.
 void TakeBlocks(Snapshot& snapshot, RecordFields fields, const std::vector<Block>& blocks) {
   snapshot.trays = std::move(fields.trays);
@@ -81,6 +97,8 @@ void TakeBlocks(Snapshot& snapshot, RecordFields fields, const std::vector<Block
   for (Tray& tray : snapshot.trays) {
     tray.paperName = PaperLabel(tray.paper);
     if (!Has(blocks, 'Z')) tray.level.reset();
+    tray.state = StateOf(tray);
+    tray.percent = PercentOf(tray);
   }
   snapshot.bins = std::move(fields.bins);
   snapshot.versions = std::move(fields.versions);
@@ -97,12 +115,10 @@ void TakeBlocks(Snapshot& snapshot, RecordFields fields, const std::vector<Block
 
 constexpr uint32_t kNoPaper = 32, kTrayNotPlaced = 33, kMisfeedAtTray = 44;  // status codes
 
-// The status code that says of a tray what its paper and level say; 0 when it holds paper.
-uint32_t TrayStatus(const Tray& tray) {
-  constexpr uint32_t kEmptyLevel = 1;  // and below, as the library takes it
-  if (tray.paper == PaperTrayMissing) return kTrayNotPlaced;
-  const bool empty = tray.paper == PaperNone || tray.level.value_or(100) <= kEmptyLevel;
-  return empty ? kNoPaper : 0;
+// The status code that says what the tray's state is; 0 when nothing is the matter.
+uint32_t TrayStatus(TrayState state) {
+  if (state == TrayState::NotInPlace) return kTrayNotPlaced;
+  return state == TrayState::Empty ? kNoPaper : 0;
 }
 
 // Some status codes speak of the tray in use; what is the matter with it and is not reported is
@@ -115,7 +131,7 @@ void AddTrayInUse(std::vector<Condition>& conditions, const Snapshot& snapshot) 
   }
   const auto tray = std::find_if(snapshot.trays.begin(), snapshot.trays.end(),
                                  [&](const Tray& each) { return each.id == id; });
-  const uint32_t code = tray == snapshot.trays.end() ? 0 : TrayStatus(*tray);
+  const uint32_t code = tray == snapshot.trays.end() ? 0 : TrayStatus(tray->state);
   const bool reported =
       std::any_of(conditions.begin(), conditions.end(),
                   [&](const Condition& condition) { return condition.reason->code == code; });

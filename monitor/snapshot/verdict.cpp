@@ -4,6 +4,11 @@
 
 namespace stmon {
 
+const char* VerdictWord(Verdict verdict) {
+  constexpr const char* kWords[] = {"fine", "attention", "cannot-print", "unknown"};
+  return kWords[static_cast<size_t>(verdict)];
+}
+
 Verdict Judge(const std::vector<Condition>& conditions) {
   if (conditions.empty()) return Verdict::Fine;
   switch (conditions[0].severity) {

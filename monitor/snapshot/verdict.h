@@ -12,6 +12,8 @@ namespace stmon {
 // The exit status, by the convention of monitoring plug-ins.
 enum class Verdict { Fine = 0, Attention = 1, CannotPrint = 2, Unknown = 3 };
 
+const char* VerdictWord(Verdict verdict);  // "cannot-print"
+
 // The functions below take conditions sorted by importance, of which the first one decides.
 
 Verdict Judge(const std::vector<Condition>& conditions);

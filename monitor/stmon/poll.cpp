@@ -17,6 +17,7 @@ namespace stmon {
 namespace {
 
 constexpr int kTrouble = static_cast<int>(Verdict::Unknown);
+constexpr size_t kLongestMetrics = 65536;  // bytes; a report has about three thousand
 
 // The words are those of monitoring plug-ins.
 Severity OfflineSeverity(const std::string& word) {
@@ -72,13 +73,24 @@ bool WriteFile(const std::string& name, const std::string& bytes) {
   return trouble.empty();
 }
 
+// The last answer of an earlier run, from the metrics that it left.
+LastAnswer EarlierAnswer(const Options& options, const Snapshot& snapshot) {
+  std::string metrics;
+  if (!IsPlainFile(options.metricsFile) ||
+      !ReadWholeFile(options.metricsFile, kLongestMetrics, metrics).empty())
+    return {};
+  return ReadLastAnswer(metrics, snapshot);
+}
+
 // Writes the files that the options ask for. Result: all could be written.
 bool WriteFiles(const Options& options, const Snapshot& snapshot, const LastAnswer& last_answer) {
   const std::string& reply = snapshot.exchange.reply;
   bool written = true;
   if (!options.saveFile.empty() && !reply.empty()) written = WriteFile(options.saveFile, reply);
-  if (!options.metricsFile.empty())
-    written &= WriteFile(options.metricsFile, MetricsReport(snapshot, last_answer));
+  if (!options.metricsFile.empty()) {
+    const LastAnswer told = last_answer ? last_answer : EarlierAnswer(options, snapshot);
+    written &= WriteFile(options.metricsFile, MetricsReport(snapshot, told));
+  }
   return written;
 }
 

@@ -71,6 +71,11 @@ std::string ReadWholeFile(const std::string& name, size_t most, std::string& byt
   return file.bad() ? SystemText(errno) : "";
 }
 
+bool IsPlainFile(const std::string& name) {
+  std::error_code ignored;
+  return std::filesystem::is_regular_file(Path(name), ignored);
+}
+
 std::string WriteWholeFile(const std::string& name, std::string_view bytes) {
   std::error_code error;
   auto target = Path(name);

@@ -10,6 +10,9 @@ namespace stmon {
 // is standard input. Result: empty, or why it could not be read.
 std::string ReadWholeFile(const std::string& name, size_t most, std::string& bytes);
 
+// False for a folder, a device, a pipe, and for what is not there.
+bool IsPlainFile(const std::string& name);
+
 // Writes a file, beside its final place first and then moved there, so that a reader never sees
 // half of it. Result: empty, or why it could not be written.
 std::string WriteWholeFile(const std::string& name, std::string_view bytes);

@@ -54,15 +54,16 @@ stmon::Severity WorstOf(const Case& input) {
 struct Expected {
   stmon::Severity severity;
   int status;
+  const char* word;
   const char* state;   // while it does not print
   const char* ending;  // of such a reason in JSON
 };
 
 constexpr Expected kExpected[] = {
-    {stmon::Severity::Report, 0, "idle", "-report\""},
-    {stmon::Severity::Warning, 1, "idle", "-warning\""},
-    {stmon::Severity::Unknown, 3, "unknown", nullptr},
-    {stmon::Severity::Error, 2, "stopped", "-error\""},
+    {stmon::Severity::Report, 0, "fine", "idle", "-report\""},
+    {stmon::Severity::Warning, 1, "attention", "idle", "-warning\""},
+    {stmon::Severity::Unknown, 3, "unknown", "unknown", nullptr},
+    {stmon::Severity::Error, 2, "cannot-print", "stopped", "-error\""},
 };
 
 bool Tells(const std::string& text, const std::string& what) {
@@ -88,7 +89,7 @@ std::string Contradiction(const Case& input, const stmon::Snapshot& snapshot) {
   expect("verdict", static_cast<int>(snapshot.verdict) == expected.status);
   expect("exit status", Tells(json, "\"exit_status\":" + status + ","));
   expect("printer_state", Tells(json, "\"printer_state\":\"" + state + "\""));
-  expect("metrics", Tells(metrics, "stmon_verdict{printer=\"test\"} " + status + "\n"));
+  expect("metrics", Tells(metrics, std::string(",verdict=\"") + expected.word + "\"} 1\n"));
   expect("order", std::is_sorted(conditions.begin(), conditions.end(),
                                  [](const auto& left, const auto& right) {
                                    return left.severity > right.severity;
@@ -125,11 +126,10 @@ std::string Contradiction(const Case& input, const stmon::Snapshot& snapshot) {
   for (const stmon::Condition& condition : conditions) {
     const std::string severity = stmon::SeverityWord(condition.severity);
     offline |= condition.reason->code == stmon::kOfflineCode;
-    tray |= condition.tray &&
-            condition.reason->keyword == std::string(stmon::ReasonOf(input.tray->code).keyword);
+    tray |= condition.tray && condition.reason->code == input.tray->code;
     expect("condition's metric",
            Tells(metrics, std::string("reason=\"") + condition.reason->keyword + "\",severity=\"" +
-                              severity + "\"} 1\n"));
+                              severity + "\""));
     expect("condition's text", conditions.size() == 1 || Tells(text, severity));
   }
   expect("offline", offline != input.online);

@@ -3,7 +3,6 @@
 #include <chrono>
 
 #include "doctest/doctest.h"
-#include "report/reports.h"
 
 using namespace std::chrono_literals;
 using stmon::EventKind;
@@ -104,25 +103,4 @@ TEST_CASE("polls become rarer while nothing answers") {
   CHECK(stmon::NextWait(2, 5s) == 20s);
   CHECK(stmon::NextWait(4000000000u, 5s) == 60s);
   CHECK(stmon::NextWait(4000000000u, 300s) == 300s);
-}
-
-TEST_CASE("metrics tell of a silent printer only since when") {
-  const auto answered = Told("32,777", "1\r6\r2\r2", "1\r100\r2\r50");
-  const std::string text = stmon::MetricsReport(answered, answered.when);
-  CHECK(text.find("stmon_up{printer=\"test\"} 1\n") != std::string::npos);
-  CHECK(text.find("code=\"32\",reason=\"media-empty\",severity=\"error\"} 1\n") !=
-        std::string::npos);
-  CHECK(text.find("code=\"777\",reason=\"other\",severity=\"warning\"} 1\n") != std::string::npos);
-  CHECK(text.find("tray=\"4\",name=\"Tray 2\"} 50\n") != std::string::npos);
-
-  auto silent = Failed(stmon::Outcome::Silent);
-  silent.source.name = "a \"quoted\\name\"\n\x1B";
-  silent.when = answered.when + 90s;
-  const std::string quiet = stmon::MetricsReport(silent, answered.when);
-  CHECK(quiet.find("stmon_up{printer=\"a \\\"quoted\\\\name\\\"\\n\xEF\xBF\xBD\"} 0\n") !=
-        std::string::npos);
-  CHECK(quiet.find("_age_seconds{printer=\"a \\\"quoted\\\\name\\\"\\n\xEF\xBF\xBD\"} 90.000\n") !=
-        std::string::npos);
-  CHECK(quiet.find("stmon_condition") == std::string::npos);
-  CHECK(stmon::MetricsReport(silent, {}).find("stmon_last_answer") == std::string::npos);
 }
