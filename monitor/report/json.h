@@ -2,7 +2,7 @@
 #pragma once
 
 #include "nlohmann/json.hpp"
-#include "words/texts.h"
+#include "snapshot/snapshot.h"
 
 namespace stmon {
 
@@ -11,5 +11,8 @@ using Json = nlohmann::ordered_json;  // keys stay in the order in which they ar
 inline Json TextsJson(const Texts& texts) {
   return {{"short", texts.brief}, {"detail", texts.detail}};
 }
+
+// Query and reply, request by request and block by block; bytes as "1B 54".
+Json RawJson(const Snapshot& snapshot);
 
 }  // namespace stmon

@@ -107,7 +107,7 @@ void AddEquipment(Json& json, const Snapshot& snapshot) {
 
 }  // namespace
 
-std::string JsonReport(const Snapshot& snapshot) {
+std::string JsonReport(const Snapshot& snapshot, bool with_bytes) {
   Json json;
   if (!snapshot.source.name.empty()) json["source"] = CleanUtf8(snapshot.source.name);
   json["time"] = UtcText(snapshot.when);
@@ -123,6 +123,7 @@ std::string JsonReport(const Snapshot& snapshot) {
       json["all_texts"][kLanguages[i].code] = TextsJson(snapshot.allTexts[i]);
     AddEquipment(json, snapshot);
   }
+  if (with_bytes) json["raw"] = RawJson(snapshot);
   return json.dump() + "\n";
 }
 

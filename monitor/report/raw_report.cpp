@@ -1,5 +1,6 @@
 #include <string_view>
 
+#include "report/json.h"
 #include "report/reports.h"
 #include "wire/reply_frame.h"
 #include "words/safe_text.h"
@@ -60,23 +61,29 @@ void AddLines(std::string& report, std::string_view bytes) {
   }
 }
 
+struct Request {
+  char letter = 0;  // 0: the bytes before the first request
+  std::string_view bytes;
+};
+
+std::vector<Request> SplitQuery(std::string_view query) {
+  std::vector<Request> requests;
+  while (!query.empty()) {
+    const std::string_view bytes = query.substr(0, query.find('\x1B', 1));
+    const bool framed = bytes[0] == '\x1B' && bytes.size() > 1;
+    requests.push_back({framed ? bytes[1] : '\0', bytes});
+    query.remove_prefix(bytes.size());
+  }
+  return requests;
+}
+
 void AddQuery(std::string& report, std::string_view query) {
   report += "Query, " + std::to_string(query.size()) + " bytes\n";
-  size_t at = 0;
-  const size_t first = query.find('\x1B');
-  if (first != 0) {
-    report += "  prefix\n";
-    AddLines(report, query.substr(0, first));
-    at = first == std::string_view::npos ? query.size() : first;
-  }
-  while (at < query.size()) {
-    const size_t next = query.find('\x1B', at + 1);
-    const std::string_view request =
-        query.substr(at, next == std::string_view::npos ? next : next - at);
-    const char letter = request.size() > 1 ? request[1] : '\0';
-    report += std::string("  ") + letter + "   " + Meaning(letter, true) + "\n";
-    AddLines(report, request);
-    at += request.size();
+  for (const Request& request : SplitQuery(query)) {
+    report += request.letter == 0 ? "  prefix\n"
+                                  : std::string("  ") + request.letter + "   " +
+                                        Meaning(request.letter, true) + "\n";
+    AddLines(report, request.bytes);
   }
 }
 
@@ -100,6 +107,18 @@ void AddReply(std::string& report, const Exchange& exchange) {
   }
 }
 
+// The letter of a request or block, null for bytes that are none.
+Json LetterJson(char letter) {
+  return letter == 0 ? Json(nullptr) : Json(EscapeBytes({&letter, 1}));
+}
+
+Json FieldsJson(const Block& block) {
+  Json fields = Json::array();
+  for (const std::string& field : Fields(block))
+    fields.push_back(EscapeBytes(field));
+  return fields;
+}
+
 }  // namespace
 
 std::string RawReport(const Snapshot& snapshot) {
@@ -107,6 +126,21 @@ std::string RawReport(const Snapshot& snapshot) {
   if (!snapshot.source.query.empty()) AddQuery(report, snapshot.source.query);
   AddReply(report, snapshot.exchange);
   return report;
+}
+
+Json RawJson(const Snapshot& snapshot) {
+  Json json{{"query", Json::array()}, {"reply", Json::array()}};
+  for (const Request& request : SplitQuery(snapshot.source.query))
+    json["query"].push_back(
+        {{"letter", LetterJson(request.letter)}, {"bytes", HexBytes(request.bytes)}});
+  for (const Block& block : SplitBlocks(snapshot.exchange.reply)) {
+    json["reply"].push_back({{"letter", LetterJson(block.letter)},
+                             {"whole", block.whole},
+                             {"fields", block.whole ? FieldsJson(block) : Json::array()},
+                             {"bytes", HexBytes(block.bytes)}});
+  }
+  json["bytes_dropped"] = snapshot.exchange.surplus;
+  return json;
 }
 
 }  // namespace stmon

@@ -12,7 +12,7 @@
 namespace stmon {
 
 std::string TextReport(const Snapshot& snapshot);
-std::string JsonReport(const Snapshot& snapshot);
+std::string JsonReport(const Snapshot& snapshot, bool with_bytes = false);
 std::string RawReport(const Snapshot& snapshot);
 
 // When the printer last gave a good answer, if it ever did.

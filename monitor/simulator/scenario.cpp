@@ -24,6 +24,7 @@ constexpr MannerName kManners[] = {
     {"slowly", Manner::Slowly, false},    // byte by byte
     {"twice", Manner::Twice, false},      // the answer two times in one packet
     {"cut", Manner::Cut, true},           // the first N bytes, then the connection is closed
+    {"stall", Manner::Stall, true},       // the first N bytes, the connection stays open
     {"silent", Manner::Silent, false},    // no answer, the connection stays open
     {"close", Manner::Close, false},      // no answer, the connection is closed
     {"reset", Manner::Reset, false},      // no answer, the connection is reset
@@ -211,7 +212,7 @@ constexpr Keyword kKeywords[] = {
     {"duplex", 1, 1, ReadDuplex, "duplex yes|no"},
     {"option", 2, 2, ReadOption, "option LETTER BITS with bits from 0 to 255, not 10 or 13"},
     {"manner", 1, 2, ReadManner,
-     "manner whole|slowly|twice|cut N|silent|close|reset|garbage|flood N"},
+     "manner whole|slowly|twice|cut N|stall N|silent|close|reset|garbage|flood N"},
     {"repeat", 1, 1, ReadRepeat, "repeat 1..1000000"},
 };
 

@@ -32,7 +32,7 @@
 
 namespace stmon {
 
-enum class Manner { Whole, Slowly, Twice, Cut, Silent, Close, Reset, Garbage, Flood };
+enum class Manner { Whole, Slowly, Twice, Cut, Stall, Silent, Close, Reset, Garbage, Flood };
 
 struct ScenarioTray {
   std::string letter;

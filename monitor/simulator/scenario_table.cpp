@@ -52,6 +52,7 @@ const NamedScenario kNamedScenarios[] = {
      "manner whole\n"
      "status 0\n"},
     {"cut-off", "sends half of its answer and closes", "manner cut 20\n"},
+    {"stalls", "sends half of its answer and no more", "manner stall 20\n"},
     {"silence", "takes the query and never answers", "manner silent\n"},
     {"close", "closes without an answer", "manner close\n"},
     {"reset", "resets the connection", "manner reset\n"},

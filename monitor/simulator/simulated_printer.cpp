@@ -117,8 +117,9 @@ void Answer(const SessionPtr& session) {
       session->reply += whole;
       return SendReply(session, false);
     case Manner::Cut:
+    case Manner::Stall:
       session->reply.resize(std::min<size_t>(session->reply.size(), state.amount));
-      return SendReply(session, true);
+      return SendReply(session, state.manner == Manner::Cut);
     case Manner::Silent:
       return ReadQuery(session);
     case Manner::Close:

@@ -6,7 +6,8 @@ namespace {
 struct OutcomeRow {
   Outcome outcome;
   const char* word;
-  const char* trouble;  // what happened and what to do; null when nothing did
+  const char* trouble;           // what happened and what to do; null when nothing did
+  const char* ofFile = nullptr;  // the same of a saved reply; null: no other words for it
 };
 
 constexpr OutcomeRow kOutcomes[] = {
@@ -30,14 +31,20 @@ constexpr OutcomeRow kOutcomes[] = {
     {Outcome::Reset, "reset",
      "the connection was reset without an answer. The printer may be serving someone else: try "
      "again."},
+    {Outcome::StillComing, "still-coming",
+     "the reply was still coming when the time was over. What is shown arrived before that; allow "
+     "more with --timeout."},
     {Outcome::CutOff, "cut-off",
-     "the reply stops before its end marker. What is shown arrived before that; try again."},
+     "the reply stops before its end marker. What is shown arrived before that; try again.",
+     "the reply stops before its end marker. What is shown stands before that."},
     {Outcome::NotAReply, "not-a-reply",
-     "the answer is not a readback reply. Is it a printer of this family? --raw shows the bytes."},
+     "the answer is not a readback reply. Is it a printer of this family? --raw shows the bytes.",
+     "this is not a readback reply. --raw shows the bytes."},
     {Outcome::TooLong, "too-long",
      "64 KiB without an end marker: not a readback reply; the rest was not read. --raw shows the "
      "beginning."},
     {Outcome::Unreadable, "unreadable", "cannot be read."},
+    {Outcome::Empty, "empty", "no reply: there is not one byte in it."},
 };
 
 const OutcomeRow& RowOf(Outcome outcome) {
@@ -53,10 +60,11 @@ const char* OutcomeWord(Outcome outcome) {
   return RowOf(outcome).word;
 }
 
-std::string TroubleText(const Exchange& exchange) {
+std::string TroubleText(const Exchange& exchange, bool saved) {
   const OutcomeRow& row = RowOf(exchange.outcome);
   if (!row.trouble) return {};
-  return exchange.detail.empty() ? row.trouble : row.trouble + (" (" + exchange.detail + ")");
+  const std::string text = saved && row.ofFile ? row.ofFile : row.trouble;
+  return exchange.detail.empty() ? text : text + " (" + exchange.detail + ")";
 }
 
 }  // namespace stmon

@@ -9,7 +9,8 @@ namespace stmon {
 
 const char* OutcomeWord(Outcome outcome);  // a word for programs: "answered", "refused", ...
 
-// For people: what happened and what to do; empty when all is well.
-std::string TroubleText(const Exchange& exchange);
+// For people: what happened and what to do; empty when all is well. `saved`: the reply was not
+// asked for but read from a file.
+std::string TroubleText(const Exchange& exchange, bool saved);
 
 }  // namespace stmon

@@ -2,6 +2,7 @@
 
 #include <algorithm>
 
+#include "snapshot/device_id.h"
 #include "snapshot/outcome.h"
 #include "wire/reply_frame.h"
 #include "words/labels.h"
@@ -34,8 +35,8 @@ RecordFields ChosenFields(const Snapshot& snapshot) {
 // ---- What the printer told --------------------------------------------------------------------
 
 void ReadDeviceId(Snapshot& snapshot) {
-  const std::string& text = snapshot.source.deviceId;
-  if (text.empty()) return;
+  if (snapshot.source.deviceId.empty()) return;
+  const std::string text = PlainDeviceId(snapshot.source.deviceId);
   const auto length = static_cast<uint32_t>(text.size());
   SetModelInfoExFromDeviceID(snapshot.record.get(), text.c_str(), length);
   SetModelInfoFromDeviceID(snapshot.flat.get(), text.c_str(), length);
@@ -54,7 +55,9 @@ void ReadDeviceId(Snapshot& snapshot) {
 // off, nobody knows what it meant to say.
 std::vector<Block> FillRecords(Snapshot& snapshot) {
   const Outcome outcome = snapshot.exchange.outcome;
-  if (outcome != Outcome::Answered && outcome != Outcome::CutOff) return {};
+  const bool arrived =
+      outcome == Outcome::Answered || outcome == Outcome::CutOff || outcome == Outcome::StillComing;
+  if (!arrived) return {};
   auto blocks = SplitBlocks(snapshot.exchange.reply);
   std::string bytes;
   for (const Block& block : blocks) {
@@ -221,7 +224,7 @@ Snapshot ReadIdentity(Source source) {
 Snapshot ReadExchange(Source source, Exchange exchange) {
   Snapshot snapshot = NewSnapshot(std::move(source));
   snapshot.exchange = std::move(exchange);
-  snapshot.trouble = TroubleText(snapshot.exchange);
+  snapshot.trouble = TroubleText(snapshot.exchange, snapshot.source.query.empty());
   const auto blocks = FillRecords(snapshot);
   snapshot.told = Has(blocks, 'S');
   Codes codes;

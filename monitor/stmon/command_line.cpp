@@ -1,16 +1,16 @@
 #include "stmon/command_line.h"
 
 #include <algorithm>
+#include <charconv>
+#include <functional>
 
 #include "CLI/CLI.hpp"
-#include "system/streams.h"
+#include "wire/transport.h"
 #include "words/safe_text.h"
 #include "words/user_language.h"
 
 namespace stmon {
 namespace {
-
-constexpr int kWrongUsage = 3;
 
 constexpr const char* kFooter =
     "\nWithout PRINTER a built-in simulated printer is asked, over a real connection.\n"
@@ -21,16 +21,54 @@ constexpr const char* kFooter =
     "  stmon --scenario no-paper --json      ask the simulated one, as JSON\n"
     "  stmon --scenario list                 name what can be simulated";
 
+bool IsTarget(const std::string& text) {
+  Target target;
+  return ParseTarget(text, target);
+}
+
+bool IsPort(const std::string& text) {
+  return IsTarget("127.0.0.1:" + text);
+}
+
+bool IsLanguage(const std::string& text) {
+  return text == "all" || FindLanguage(text);
+}
+
+// A test of the option's value; `wrong` is what people read behind the value.
+CLI::Validator Must(const std::function<bool(const std::string& text)>& good,
+                    const std::string& wrong) {
+  return CLI::Validator(
+      [=](const std::string& text) {
+        return good(text) ? std::string() : "'" + EscapeBytes(text) + "' " + wrong;
+      },
+      "");
+}
+
+CLI::Validator Seconds(double least, int most) {
+  const auto good = [=](const std::string& text) {
+    double value = 0;
+    const char* const end = text.data() + text.size();
+    const auto read = std::from_chars(text.data(), end, value);
+    // What is no number compares false with everything.
+    return read.ec == std::errc() && read.ptr == end && value >= least && value <= most;
+  };
+  return Must(good, "is no number of seconds from 0.1 to " + std::to_string(most));
+}
+
+// A value that was forgotten, or that a script's variable did not have, must not count as one.
+bool IsValue(const std::string& text) {
+  return !text.empty() && (text[0] != '-' || text == "-");
+}
+
 void Describe(CLI::App& app, Options& options) {
   app.name("stmon");
   app.description("Asks a colour laser printer how it is.");
   app.footer(kFooter);
-  auto* printer =
-      app.add_option("PRINTER", options.printer, "HOST or HOST:PORT, port 9100 unless given")
-          ->option_text(" ");
-  auto* reply =
-      app.add_option("--reply", options.replyFile, "show a saved reply instead of asking a printer")
-          ->option_text("FILE  ('-': standard input)");
+  app.add_option("PRINTER", options.printer, "HOST or HOST:PORT, port 9100 unless given")
+      ->option_text(" ")
+      ->check(Must(IsTarget, "is not a printer's address; HOST, HOST:PORT or [IPV6]:PORT are"));
+  app.add_option("--reply", options.replyFile, "show a saved reply instead of asking a printer")
+      ->option_text("FILE  ('-': standard input)");
   app.add_option("--device-id", options.deviceId,
                  "show what a Device ID says, alone or beside the poll")
       ->option_text("TEXT");
@@ -38,18 +76,18 @@ void Describe(CLI::App& app, Options& options) {
       ->option_text("list|flat")
       ->check(CLI::IsMember({"list", "flat"}));
   app.add_option("--lang", options.language, LanguageCodes() + "; default from the locale, else EN")
-      ->option_text("CODE|all");
+      ->option_text("CODE|all")
+      ->check(Must(IsLanguage, "is not one of " + LanguageCodes() + " all"));
   app.add_flag("--catalogue", options.catalogue,
                "print every status the library knows, in all languages or that of --lang");
   app.add_option("--save-reply", options.saveFile, "keep the reply for later")->option_text("FILE");
   app.add_flag("--json", options.json, "one JSON object on standard output");
   app.add_flag("--raw", options.raw, "show the bytes of query and reply, block by block");
-  auto* watch =
-      app.add_option("--watch", options.watch, "poll on and print what changes, until ended")
-          ->option_text("SECONDS")
-          ->check(CLI::Range(0.1, 86400.0));
+  app.add_option("--watch", options.watch, "poll on and print what changes, until ended")
+      ->option_text("SECONDS")
+      ->check(Seconds(0.1, 86400));
   app.add_option("--picture", options.pictureFile,
-                 "write the printer's picture; '-' shows it in a terminal with colours")
+                 "write the printer's picture; in a terminal '-' shows it")
       ->option_text("FILE.png|FILE.svg|-");
   app.add_option("--gallery", options.gallery,
                  "write pictures, icons and texts of every status, and a page that shows them")
@@ -58,44 +96,65 @@ void Describe(CLI::App& app, Options& options) {
       ->option_text("FILE");
   app.add_option("--timeout", options.timeout, "for the whole poll, default 5")
       ->option_text("SECONDS")
-      ->check(CLI::Range(0.1, 3600.0));
+      ->check(Seconds(0.1, 3600));
   app.add_option("--offline-as", options.offlineAs,
                  "what an offline printer without an error is, default critical")
       ->option_text("ok|warning|critical|unknown")
       ->check(CLI::IsMember({"ok", "warning", "critical", "unknown"}));
-  auto* simulate = app.add_option("--simulate", options.simulate,
-                                  "be a simulated printer at 127.0.0.1, until ended")
-                       ->option_text("PORT");
-  auto* scenario = app.add_option("--scenario", options.scenario,
-                                  "what the simulated printer is like; 'list' names all")
-                       ->option_text("NAME|FILE");
-  reply->excludes(printer)->excludes(watch);
-  simulate->excludes(printer)->excludes(reply)->excludes(watch);
-  scenario->excludes(printer)->excludes(reply);
+  app.add_option("--simulate", options.simulate, "be a simulated printer at 127.0.0.1, until ended")
+      ->option_text("PORT")
+      ->check(Must(IsPort, "is no port; 1 to 65535 are"));
+  app.add_option("--scenario", options.scenario,
+                 "what the simulated printer is like; 'list' names all")
+      ->option_text("NAME|FILE");
   app.set_version_flag("--version", std::string("stmon ") + STMON_VERSION);
+}
+
+std::vector<std::string> GivenOptions(const CLI::App& app) {
+  std::vector<std::string> given;
+  for (const CLI::Option* option : app.get_options()) {
+    if (option->count() > 0) given.push_back(option->get_name());
+  }
+  return given;
+}
+
+// "--reply=" would take the next argument for its value.
+std::string FindEmptyValue(const std::vector<std::string>& arguments) {
+  for (const std::string& argument : arguments) {
+    if (argument == "--") break;
+    if (argument.starts_with("--") && argument.find('=') == argument.size() - 1)
+      return argument + " has no value";
+  }
+  return {};
+}
+
+Parsed WrongUsage(const std::string& what) {
+  return {"", what + ".\n'stmon --help' shows the options."};
 }
 
 }  // namespace
 
-int ParseCommandLine(int count, char** values, Options& options) {
+Parsed ParseCommandLine(std::vector<std::string> arguments, Options& options) {
+  std::string wrong = FindEmptyValue(arguments);
+  if (!wrong.empty()) return WrongUsage(wrong);
   CLI::App app;
   Describe(app, options);
-  auto arguments = Arguments(count, values);
+  for (CLI::Option* option : app.get_options()) {
+    if (option->get_items_expected_min() > 0)
+      option->check(Must(IsValue, "is no value: it is empty or begins like an option"));
+  }
+  std::reverse(arguments.begin(), arguments.end());  // parse() takes them from the back
   try {
-    if (!arguments.empty()) arguments.erase(arguments.begin());
-    std::reverse(arguments.begin(), arguments.end());  // parse() takes them from the back
     app.parse(std::move(arguments));
   } catch (const CLI::CallForHelp&) {
-    Print(app.help());
-    return 0;
+    return {app.help(), ""};
   } catch (const CLI::CallForVersion& version) {
-    Print(std::string(version.what()) + "\n");
-    return 0;
+    return {version.what() + std::string("\n"), ""};
   } catch (const CLI::ParseError& error) {
-    Complain("stmon: " + CleanUtf8(error.what()) + "\n'stmon --help' shows the options.\n");
-    return kWrongUsage;
+    return WrongUsage(CleanUtf8(error.what()));
   }
-  return -1;
+  wrong = FindClash(options, GivenOptions(app));
+  return wrong.empty() ? Parsed{} : WrongUsage(wrong);
 }
 
 }  // namespace stmon

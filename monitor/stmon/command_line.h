@@ -1,33 +1,21 @@
-// The command line, and what it asks for.
+// Reads the command line.
 #pragma once
 
 #include <string>
+#include <vector>
+
+#include "stmon/options.h"
 
 namespace stmon {
 
-// Empty texts and zeros stand for options that were not given.
-struct Options {
-  std::string printer;                 // HOST[:PORT]; empty: the built-in simulated printer
-  std::string replyFile;               // a saved reply instead of a printer
-  std::string deviceId;                // shown alone or beside the poll
-  std::string record = "list";         // or "flat"
-  std::string language;                // code, "all", or empty: that of the user's locale
-  std::string saveFile;                // where to keep the reply
-  std::string pictureFile;             // where to write the picture, '-' the terminal
-  std::string gallery;                 // folder for the pictures of every status
-  std::string metricsFile;             // where to write the metrics
-  std::string scenario;                // empty: ready
-  std::string simulate;                // port to be a simulated printer at
-  double watch = 0;                    // seconds between polls, 0: one poll
-  double timeout = 5;                  // seconds for a poll
-  std::string offlineAs = "critical";  // how grave it is that the printer is offline
-  bool catalogue = false;
-  bool json = false;
-  bool raw = false;
+// Both empty: go on with the options.
+struct Parsed {
+  std::string output;     // help or version, for standard output
+  std::string complaint;  // what is wrong, for standard error
 };
 
-// Reads the arguments of main(); what is wrong, help and version are printed. Result: -1 to go on,
-// else the exit status.
-int ParseCommandLine(int count, char** values, Options& options);
+// `arguments` begin with the first one behind the program's name. Addresses, ports, languages and
+// numbers have been looked at when the complaint is empty.
+Parsed ParseCommandLine(std::vector<std::string> arguments, Options& options);
 
 }  // namespace stmon

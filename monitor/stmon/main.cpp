@@ -23,15 +23,14 @@ int ListScenarios() {
 
 int Simulate(const Options& options, const Scenario& scenario) {
   Target target;
-  if (!ParseTarget("127.0.0.1:" + options.simulate, target))
-    return Fail("--simulate " + EscapeBytes(options.simulate) + ": a port is 1 to 65535.");
+  ParseTarget("127.0.0.1:" + options.simulate, target);
   std::string trouble;
   const auto printer = StartPrinter(scenario, target.port, trouble);
   if (!printer)
     return Fail("cannot listen at " + TargetText(target) + ": " + CleanUtf8(trouble) + ".");
   Print("Simulated printer at " + TargetText(target) + ", scenario '" + CleanUtf8(scenario.name) +
         "'. End it with Ctrl-C.\n");
-  ServeForever(*printer);
+  if (OutputTrouble().empty()) ServeForever(*printer);
   return 0;
 }
 
@@ -41,12 +40,6 @@ int PollSimulated(const Options& options, const Scenario& scenario) {
   if (!printer) return Fail("cannot start the simulated printer: " + CleanUtf8(trouble) + ".");
   const Target target{"127.0.0.1", PrinterPort(*printer)};
   return Poll(options, target, "simulated printer, scenario '" + scenario.name + "'");
-}
-
-// A Device ID that stands alone on the command line is shown without asking anybody.
-bool OnlyDeviceId(const Options& options) {
-  return !options.deviceId.empty() && options.printer.empty() && options.replyFile.empty() &&
-         options.scenario.empty() && options.simulate.empty();
 }
 
 // The texts go out all the same, with plainer letters or question marks for those that are missing.
@@ -78,32 +71,28 @@ int MakeGallery(const Options& options) {
 }
 
 int Run(const Options& options) {
-  const bool all = options.language == "all" || options.language.empty();
-  if (!all && !FindLanguage(options.language)) {
-    return Fail("--lang " + EscapeBytes(options.language) + ": not one of " + LanguageCodes() +
-                " all.");
-  }
   if (options.catalogue || options.record == "flat") TellOfCodePage(options);
   if (options.catalogue) return PrintCatalogue(options);
   if (!options.gallery.empty()) return MakeGallery(options);
   if (options.scenario == "list") return ListScenarios();
   if (OnlyDeviceId(options)) return ShowDeviceId(options);
-  Scenario scenario;
-  const bool simulated = options.printer.empty() && options.replyFile.empty();
-  if (simulated) {
-    const std::string wrong =
-        LoadScenario(options.scenario.empty() ? "ready" : options.scenario, scenario);
-    if (!wrong.empty()) return Fail(wrong);
-  }
-  if (!options.simulate.empty()) return Simulate(options, scenario);
   if (!options.replyFile.empty()) return ShowReply(options);
-  if (simulated) return PollSimulated(options, scenario);
-  Target target;
-  if (!ParseTarget(options.printer, target)) {
-    return Fail("'" + EscapeBytes(options.printer) +
-                "' is not a printer's address; HOST, HOST:PORT or [IPV6]:PORT are.");
+  if (!options.printer.empty()) {
+    Target target;
+    ParseTarget(options.printer, target);
+    return Poll(options, target, TargetText(target));
   }
-  return Poll(options, target, TargetText(target));
+  Scenario scenario;
+  const std::string wrong =
+      LoadScenario(options.scenario.empty() ? "ready" : options.scenario, scenario);
+  if (!wrong.empty()) return Fail(wrong);
+  return options.simulate.empty() ? PollSimulated(options, scenario) : Simulate(options, scenario);
+}
+
+// What could not be written was not told, whatever it was.
+int Finish(int status) {
+  const std::string trouble = OutputTrouble();
+  return trouble.empty() ? status : Fail("cannot write to standard output: " + trouble + ".");
 }
 
 }  // namespace
@@ -111,7 +100,11 @@ int Run(const Options& options) {
 
 int main(int count, char** values) {
   stmon::PrepareStreams();
+  auto arguments = stmon::Arguments(count, values);
+  if (!arguments.empty()) arguments.erase(arguments.begin());
   stmon::Options options;
-  const int parsed = stmon::ParseCommandLine(count, values, options);
-  return parsed >= 0 ? parsed : stmon::Run(options);
+  const stmon::Parsed parsed = stmon::ParseCommandLine(std::move(arguments), options);
+  if (!parsed.complaint.empty()) return stmon::Fail(parsed.complaint);
+  stmon::Print(parsed.output);
+  return stmon::Finish(parsed.output.empty() ? stmon::Run(options) : 0);
 }

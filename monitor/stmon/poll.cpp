@@ -66,8 +66,13 @@ Snapshot AskNetwork(const Options& options, const Target& target, const std::str
   return snapshot;
 }
 
-// Result: the file could be written; if not, that has been told.
+// '-' is standard output. Result: the file could be written; if not, that has been told. What could
+// not be printed is told at the end.
 bool WriteFile(const std::string& name, const std::string& bytes) {
+  if (name == "-") {
+    Print(bytes);
+    return true;
+  }
   const std::string trouble = WriteWholeFile(name, bytes);
   if (!trouble.empty()) Fail("cannot write " + CleanUtf8(name) + ": " + trouble + ".");
   return trouble.empty();
@@ -94,17 +99,18 @@ bool WriteFiles(const Options& options, const Snapshot& snapshot, const LastAnsw
   return written;
 }
 
-bool ShowInTerminal(const Image& image) {
+// In a terminal as coloured text, or in words where it has no colours; elsewhere as the bytes of a
+// file.
+void PrintPicture(const Image& image, const Snapshot& snapshot) {
   constexpr int kMostColumns = 100;  // more make it larger, not clearer
   const Terminal terminal = OutputTerminal();
   if (terminal.columns == 0) {
-    Fail(
-        "--picture -: standard output is no terminal with colours; --picture FILE.png writes a "
-        "file.");
-    return false;
+    Print(EncodePng(image));
+  } else if (terminal.colours) {
+    Print(HalfBlocks(image, std::min(terminal.columns, kMostColumns), terminal.trueColour));
+  } else {
+    Print(snapshot.headline + "\n");
   }
-  Print(HalfBlocks(image, std::min(terminal.columns, kMostColumns), terminal.trueColour));
-  return true;
 }
 
 // Result: the picture could be shown, or there is nothing to show.
@@ -119,8 +125,18 @@ bool ShowPicture(const Options& options, const Snapshot& snapshot) {
     Fail("the picture could not be drawn.");
     return false;
   }
-  return options.pictureFile == "-" ? ShowInTerminal(image)
-                                    : WriteFile(options.pictureFile, EncodePng(image));
+  if (options.pictureFile != "-") return WriteFile(options.pictureFile, EncodePng(image));
+  PrintPicture(image, snapshot);
+  return true;
+}
+
+void PrintReport(const Options& options, const Snapshot& snapshot) {
+  if (options.json) {
+    Print(JsonReport(snapshot, options.raw));
+    return;
+  }
+  if (snapshot.told || snapshot.identity) Print(TextReport(snapshot));
+  if (options.raw) Print("\n" + RawReport(snapshot));
 }
 
 // Result: the exit status.
@@ -128,13 +144,8 @@ int ReportOnce(const Options& options, const Snapshot& snapshot) {
   LastAnswer last_answer;
   if (IsGood(snapshot)) last_answer = snapshot.when;
   const bool written = WriteFiles(options, snapshot, last_answer);
-  if (options.json) {
-    Print(JsonReport(snapshot));
-  } else if (snapshot.told || snapshot.identity) {
-    Print(TextReport(snapshot));
-  }
+  if (!FillsOutput(options)) PrintReport(options, snapshot);
   const bool drawn = ShowPicture(options, snapshot);
-  if (options.raw) Print((options.json ? "" : "\n") + RawReport(snapshot));
   if (!snapshot.trouble.empty()) Fail(CleanUtf8(snapshot.source.name + ": " + snapshot.trouble));
   return written && drawn ? static_cast<int>(snapshot.verdict) : kTrouble;
 }
@@ -154,8 +165,14 @@ int WatchOn(const Options& options, const Target& target, const std::string& nam
       if (event.kind == EventKind::First && !was_silent) continue;
       Print(options.json ? EventJson(event, snapshot) : EventText(event, snapshot));
     }
-    if (first_answer) Print(options.json ? JsonReport(snapshot) : TextReport(snapshot) + "\n");
-    if (options.raw && !events.empty()) Print(RawReport(snapshot));
+    const bool bytes_wanted = options.raw && !events.empty();
+    if (options.json) {
+      if (first_answer || bytes_wanted) Print(JsonReport(snapshot, bytes_wanted));
+    } else {
+      if (first_answer) Print(TextReport(snapshot) + "\n");
+      if (bytes_wanted) Print(RawReport(snapshot));
+    }
+    if (!OutputTrouble().empty()) return kTrouble;
     // A file that cannot be written from the start is a mistake; later the disk may be full for a
     // while.
     const bool written = WriteFiles(options, snapshot, LastAnswerOf(watch));
@@ -182,7 +199,7 @@ int ShowDeviceId(const Options& options) {
   if (identity.maker.empty() && identity.model.empty() && identity.description.empty() &&
       identity.languages.empty()) {
     return Fail(
-        "the Device ID has none of the fields MFG:, CMD:, MDL: and DES:, each ended by ';'.");
+        "the Device ID has none of the fields MFG:, CMD:, MDL: and DES:, nor their long names.");
   }
   return ReportOnce(options, snapshot);
 }

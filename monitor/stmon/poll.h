@@ -3,7 +3,7 @@
 
 #include <string>
 
-#include "stmon/command_line.h"
+#include "stmon/options.h"
 #include "wire/transport.h"
 #include "words/user_language.h"
 

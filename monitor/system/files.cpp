@@ -2,10 +2,11 @@
 
 #include <cerrno>
 #include <cstdio>
-#include <cstring>
 #include <filesystem>
 #include <fstream>
 #include <system_error>
+
+#include "system/system_text.h"
 
 #ifdef _WIN32
 #include <windows.h>
@@ -19,26 +20,6 @@ namespace {
 // Windows would take a name of plain bytes in its ANSI code page, which lacks most letters.
 std::filesystem::path Path(const std::string& name) {
   return std::filesystem::path(std::u8string(name.begin(), name.end()));
-}
-
-// The usual errors in words of our own: the system's differ from one to the next, and may come in
-// another language.
-std::string SystemText(int error) {
-  switch (error) {
-    case ENOENT:
-      return "no such file";
-    case EACCES:
-    case EPERM:
-      return "no permission";
-    case EISDIR:
-      return "a folder, not a file";
-    case ENOSPC:
-      return "no space left";
-    case 0:  // streams may fail without a word from the system
-      return "read error";
-    default:
-      return std::strerror(error);
-  }
 }
 
 #ifdef _WIN32

@@ -102,7 +102,8 @@ void ReadReply(asio::io_context& context, tcp::socket& socket, Clock::time_point
     reply.append(chunk.data(), count);
   } while (!ScanReply(scanner, reply) && MayBeReply(reply) && in_time && !error);
   exchange = JudgeReply(std::move(reply));
-  if (!exchange.reply.empty()) return;
+  if (exchange.outcome == Outcome::CutOff && !in_time) exchange.outcome = Outcome::StillComing;
+  if (exchange.outcome != Outcome::Empty) return;
   exchange.outcome = !in_time         ? Outcome::Silent
                      : IsReset(error) ? Outcome::Reset
                                       : Outcome::ClosedEarly;
@@ -200,7 +201,7 @@ Exchange JudgeReply(std::string bytes) {
     exchange.reply.resize(scanner.length);
   }
   if (exchange.reply.empty()) {
-    exchange.outcome = Outcome::ClosedEarly;
+    exchange.outcome = Outcome::Empty;
   } else if (exchange.reply[0] != kEsc) {
     exchange.outcome = Outcome::NotAReply;
   } else if (!ended && exchange.reply.size() >= kLongestReply) {

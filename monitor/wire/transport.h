@@ -35,10 +35,12 @@ enum class Outcome {
   Silent,          // connected, but not one byte came
   ClosedEarly,     // closed without one byte
   Reset,           // the connection was reset
+  StillComing,     // the time was over before the end marker came
   CutOff,          // a reply that stops before its end marker
   NotAReply,       // bytes that do not begin like a reply
   TooLong,         // kLongestReply bytes and no end
-  Unreadable       // a file that cannot be read
+  Unreadable,      // a file that cannot be read
+  Empty            // a file without one byte
 };
 
 struct Exchange {

@@ -3,6 +3,7 @@
 #include "simulator/scenario.h"
 #include "simulator/simulated_printer.h"
 #include "simulator/simulated_reply.h"
+#include "snapshot/device_id.h"
 #include "wire/reply_frame.h"
 #include "wire/transport.h"
 #include "words/safe_text.h"
@@ -164,4 +165,28 @@ TEST_CASE("nothing that controls a terminal leaves") {
         "31m\xEF\xBF\xBDok\nß\xEF\xBF\xBD");
   CHECK(stmon::DisplayWidth("Zásobník") == 8);
   CHECK(stmon::DisplayWidth("大量ﾄﾚｲ") == 7);
+}
+
+TEST_CASE("a Device ID in any form becomes the one that the library reads") {
+  struct Row {
+    const char* why;
+    const char* text;
+    const char* plain;
+  };
+  const Row rows[] = {
+      {"as it should be", "MFG:A;CMD:X,Y;MDL:B;DES:C;", "MFG:A;CMD:X,Y;MDL:B;DES:C;"},
+      {"without the last end", "MFG:A;MDL:X1", "MFG:A;MDL:X1;"},
+      {"long keys", "MANUFACTURER:A;COMMAND SET:X;MODEL:B;DESCRIPTION:C",
+       "MFG:A;CMD:X;MDL:B;DES:C;"},
+      {"a long key inside a value", "DES:MODEL:B;", "DES:MODEL:B;"},
+      {"blanks between fields and a line feed", " MFG:A ; MDL:two words;\r\n",
+       "MFG:A;MDL:two words;"},
+      {"a key of no interest", "CLASS:PRINTER;MODEL:B", "CLASS:PRINTER;MDL:B;"},
+      {"a key alone", "MODEL:", "MDL:;"},
+      {"nothing", " ;; ", ""},
+  };
+  for (const Row& row : rows) {
+    CAPTURE(row.why);
+    CHECK(stmon::PlainDeviceId(row.text) == row.plain);
+  }
 }

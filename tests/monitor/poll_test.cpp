@@ -40,6 +40,7 @@ const PollCase kPolls[] = {
     {"one-byte", Outcome::Answered, Verdict::Fine},
     {"two-replies", Outcome::Answered, Verdict::Fine},
     {"cut-off", Outcome::CutOff, Verdict::Unknown},
+    {"stalls", Outcome::StillComing, Verdict::Unknown},
     {"silence", Outcome::Silent, Verdict::Unknown},
     {"close", Outcome::ClosedEarly, Verdict::Unknown},
     {"reset", Outcome::Reset, Verdict::Unknown},
@@ -53,8 +54,8 @@ TEST_CASE("every kind of answer ends in time and says what it was") {
   for (const PollCase& row : kPolls) {
     CAPTURE(row.scenario);
     const auto begin = std::chrono::steady_clock::now();
-    const bool silent = row.outcome == Outcome::Silent;
-    const auto snapshot = Poll(row.scenario, silent ? std::chrono::milliseconds(200) : kTimeout);
+    const bool waits = row.outcome == Outcome::Silent || row.outcome == Outcome::StillComing;
+    const auto snapshot = Poll(row.scenario, waits ? std::chrono::milliseconds(200) : kTimeout);
     CHECK(std::chrono::steady_clock::now() - begin < std::chrono::seconds(3));
     // Some systems tell a reset once; where that was to the writing side, the reader sees a close.
     const bool closed =
@@ -112,4 +113,28 @@ TEST_CASE("reports of a hostile printer hold no control characters") {
         REQUIRE((byte == '\n' || static_cast<unsigned char>(byte) >= 0x20));
     }
   }
+}
+
+TEST_CASE("what a saved reply lacks is told without a word of connections") {
+  struct Row {
+    std::string bytes;
+    const char* trouble;  // a part of it
+  };
+  const Row rows[] = {
+      {"", "not one byte"},
+      {"hello", "not a readback reply"},
+      {"\x1BS\r0\r0\r1", "stops before its end marker"},
+      {"\x1BT\r1\r6\n\x1B ", "no status block"},
+  };
+  for (const Row& row : rows) {
+    CAPTURE(row.bytes);
+    const auto snapshot = stmon::ReadExchange({"file", "", "", stmon::RecordKind::List},
+                                              stmon::JudgeReply(row.bytes));
+    CHECK(snapshot.trouble.find(row.trouble) != std::string::npos);
+    for (const char* word : {"connect", "try again", "answer"})
+      CHECK(snapshot.trouble.find(word) == std::string::npos);
+    CHECK(snapshot.verdict == Verdict::Unknown);
+  }
+  CHECK(Poll("stalls", std::chrono::milliseconds(100)).trouble.find("--timeout") !=
+        std::string::npos);
 }
