@@ -6,6 +6,7 @@
 #include "report/catalogue.h"
 #include "report/json.h"
 #include "system/files.h"
+#include "words/own_texts.h"
 
 namespace stmon {
 namespace {
@@ -117,8 +118,13 @@ show();
 
 Json StateTexts(const CatalogueEntry& entry) {
   Json texts;
-  for (const StatusWords& words : entry.words)
-    texts[words.language->code] = {words.list.brief, words.list.detail, words.listDuplex.detail};
+  for (const StatusWords& words : entry.words) {
+    Texts plain = words.list;
+    Texts duplex = words.listDuplex;
+    FillTexts(plain, entry.code, false, *words.language);
+    FillTexts(duplex, entry.code, true, *words.language);
+    texts[words.language->code] = {plain.brief, plain.detail, duplex.detail};
+  }
   return texts;
 }
 

@@ -7,6 +7,7 @@
 #include "snapshot/outcome.h"
 #include "words/clock.h"
 #include "words/labels.h"
+#include "words/phrases.h"
 #include "words/safe_text.h"
 
 namespace stmon {
@@ -20,23 +21,35 @@ Parts StatusParts(const Snapshot& snapshot) {
   return {{"", snapshot.headline}};
 }
 
+std::string InUse(const std::string& name, const Language& language) {
+  return name + " (" + Say(Phrase::InUse, language) + ")";
+}
+
 Parts TrayParts(const Snapshot& snapshot) {
+  const Language& language = *snapshot.source.language;
   Parts parts;
   for (const Tray& tray : snapshot.trays) {
-    std::string text = TrayLabel(tray.id);
-    if (tray.paper != 0) text += ", " + tray.paperName;
-    if (tray.level) text += ", level " + std::to_string(*tray.level);
+    const std::string paper = PaperLabel(tray.paper, language);
+    const std::string level = LevelLabel(tray.paper, tray.level, language);
+    std::string text = TrayLabel(tray.id, language);
+    if (!paper.empty()) text += ", " + paper;
+    if (!level.empty()) text += ", " + Say(Phrase::Level, language, {level});
     parts[std::to_string(tray.id)] = text;
   }
-  if (snapshot.currentTray) parts["in use"] = TrayLabel(*snapshot.currentTray) + " in use";
+  if (snapshot.currentTray)
+    parts["in use"] = InUse(TrayLabel(*snapshot.currentTray, language), language);
   return parts;
 }
 
 Parts BinParts(const Snapshot& snapshot) {
+  const Language& language = *snapshot.source.language;
   Parts parts;
-  for (const Bin& bin : snapshot.bins)
-    parts[std::to_string(bin.id)] = BinLabel(bin.id) + ", state " + std::to_string(bin.state);
-  if (snapshot.currentBin) parts["in use"] = BinLabel(*snapshot.currentBin) + " in use";
+  for (const Bin& bin : snapshot.bins) {
+    parts[std::to_string(bin.id)] =
+        BinLabel(bin.id, language) + ", " + BinStateLabel(bin.state, language);
+  }
+  if (snapshot.currentBin)
+    parts["in use"] = InUse(BinLabel(*snapshot.currentBin, language), language);
   return parts;
 }
 
@@ -44,13 +57,13 @@ Parts OptionParts(const Snapshot& snapshot) {
   Parts parts;
   if (!snapshot.options) return parts;
   for (const Option& option : *snapshot.options)
-    parts[std::to_string(option.code)] = OptionLabel(option.code);
+    parts[std::to_string(option.code)] = OptionLabel(option.code, *snapshot.source.language);
   return parts;
 }
 
 Parts LanguageParts(const Snapshot& snapshot) {
   if (!snapshot.language) return {};
-  return {{"", LanguageLabel(*snapshot.language)}};
+  return {{"", LanguageLabel(*snapshot.language, *snapshot.source.language)}};
 }
 
 Parts FontParts(const Snapshot& snapshot) {
@@ -61,10 +74,14 @@ Parts FontParts(const Snapshot& snapshot) {
 }
 
 Parts ModelParts(const Snapshot& snapshot) {
+  const Language& language = *snapshot.source.language;
   Parts parts;
-  for (size_t i = 0; i < snapshot.versions.size(); ++i)
-    parts["version" + std::to_string(i)] = "version " + EscapeBytes(snapshot.versions[i]);
-  if (snapshot.number) parts["number"] = "number " + std::to_string(*snapshot.number);
+  for (size_t i = 0; i < snapshot.versions.size(); ++i) {
+    parts["version" + std::to_string(i)] =
+        Say(Phrase::VersionIs, language, {EscapeBytes(snapshot.versions[i])});
+  }
+  if (snapshot.number)
+    parts["number"] = Say(Phrase::NumberIs, language, {std::to_string(*snapshot.number)});
   return parts;
 }
 
@@ -121,14 +138,43 @@ bool Lists(const Snapshot& snapshot, const Condition& sought) {
 void AddConditions(std::vector<Event>& events, const Snapshot& before, const Snapshot& after) {
   for (const Condition& condition : before.conditions) {
     if (!Lists(after, condition))
-      events.push_back(
-          {EventKind::Went, "conditions", ConditionText(condition), "", condition.code});
+      events.push_back({EventKind::Went, "conditions",
+                        ConditionText(condition, *before.source.language), "", condition.code});
   }
   for (const Condition& condition : after.conditions) {
     if (!Lists(before, condition))
-      events.push_back(
-          {EventKind::Came, "conditions", "", ConditionText(condition), condition.code});
+      events.push_back({EventKind::Came, "conditions", "",
+                        ConditionText(condition, *after.source.language), condition.code});
   }
+}
+
+struct GroupLabel {
+  std::string_view group;
+  Phrase label;
+};
+
+constexpr GroupLabel kGroupLabels[] = {
+    {"printer", Phrase::Printer},
+    {"status", Phrase::Status},
+    {"conditions", Phrase::Conditions},
+    {"trays", Phrase::Trays},
+    {"bins", Phrase::Bins},
+    {"options", Phrase::Options},
+    {"language", Phrase::PrinterLanguage},
+    {"fonts", Phrase::Fonts},
+    {"model", Phrase::Model},
+};
+
+// The group's label, as wide as the widest of them and a gap.
+std::string GroupColumn(std::string_view group, const Language& language) {
+  size_t width = 0;
+  std::string label;
+  for (const GroupLabel& row : kGroupLabels) {
+    const std::string text = Say(row.label, language);
+    width = std::max(width, DisplayWidth(text));
+    if (row.group == group) label = text;
+  }
+  return Padded(label, width + 2);
 }
 
 const char* KindWord(EventKind kind) {
@@ -155,8 +201,10 @@ std::vector<Event> ObserveFailure(Watch& watch, const Snapshot& latest, SteadyTi
   ++watch.failures;
   watch.failing = latest.exchange.outcome;
   if (!news) return {};
-  std::string from = "never answered so far";
-  if (watch.good) from = "last answer " + AgeText(now - watch.goodAt) + " ago";
+  const Language& language = *latest.source.language;
+  std::string from = Say(Phrase::NeverAnswered, language);
+  if (watch.good)
+    from = Say(Phrase::LastAnswerAgo, language, {AgeText(now - watch.goodAt, language)});
   return {{EventKind::Lost, "printer", from, latest.trouble, {}, LastAnswerOf(watch)}};
 }
 
@@ -164,6 +212,7 @@ std::vector<Event> ObserveFailure(Watch& watch, const Snapshot& latest, SteadyTi
 
 std::vector<Event> Observe(Watch& watch, const Snapshot& latest, SteadyTime now) {
   if (!IsGood(latest)) return ObserveFailure(watch, latest, now);
+  const Language& language = *latest.source.language;
   std::vector<Event> events;
   if (!watch.good) {
     events.push_back({EventKind::First, "printer", "", latest.headline, {}});
@@ -171,7 +220,7 @@ std::vector<Event> Observe(Watch& watch, const Snapshot& latest, SteadyTime now)
     if (watch.failures > 0) {
       events.push_back({EventKind::Back,
                         "printer",
-                        "no usable answer for " + AgeText(now - watch.goodAt),
+                        Say(Phrase::SilentFor, language, {AgeText(now - watch.goodAt, language)}),
                         latest.headline,
                         {},
                         LastAnswerOf(watch)});
@@ -200,11 +249,11 @@ std::chrono::milliseconds NextWait(uint32_t failures, std::chrono::milliseconds 
 }
 
 std::string EventText(const Event& event, const Snapshot& latest) {
-  std::string line = LocalText(latest.when) + "  " + event.group;
-  line.append(event.group.size() < 12 ? 12 - event.group.size() : 1, ' ');
+  const Language& language = *latest.source.language;
+  std::string line = LocalText(latest.when) + "  " + GroupColumn(event.group, language);
   switch (event.kind) {
     case EventKind::First:
-      return line + "answers for the first time: " + event.to + "\n";
+      return line + Say(Phrase::FirstAnswer, language, {event.to}) + "\n";
     case EventKind::Changed:
       return line + event.from + " -> " + event.to + "\n";
     case EventKind::Came:
@@ -212,9 +261,9 @@ std::string EventText(const Event& event, const Snapshot& latest) {
     case EventKind::Went:
       return line + "- " + event.from + "\n";
     case EventKind::Lost:
-      return line + "no usable answer (" + event.from + "): " + event.to + "\n";
+      return line + Say(Phrase::Lost, language, {event.from, event.to}) + "\n";
     case EventKind::Back:
-      return line + "answers again (" + event.from + "): " + event.to + "\n";
+      return line + Say(Phrase::Back, language, {event.from, event.to}) + "\n";
   }
   return line;
 }

@@ -5,6 +5,7 @@
 
 #include "snapshot/ranking.h"
 #include "words/labels.h"
+#include "words/phrases.h"
 
 namespace stmon {
 namespace {
@@ -104,17 +105,18 @@ std::vector<uint32_t> DominantCodes(const std::vector<Condition>& conditions) {
 }
 
 // The short texts of mild conditions all read "ready"; what to do about them says more.
-std::string ConditionText(const Condition& condition) {
-  if (!condition.known)
-    return "Unknown condition, code " + std::to_string(condition.code.value_or(0));
+std::string ConditionText(const Condition& condition, const Language& language) {
+  if (!condition.known) {
+    return Say(Phrase::UnknownCondition, language, {std::to_string(condition.code.value_or(0))});
+  }
   const bool mild = condition.reason->severity < Severity::Unknown;
   const Texts& texts = condition.texts;
   std::string text = mild && !texts.detail.empty() ? texts.detail : texts.brief;
   std::replace(text.begin(), text.end(), '\n', ' ');
   if (text.empty()) text = Keyword(*condition.reason, condition.severity);
-  const std::string colour = TonerColour(condition.reason->code);
+  const std::string colour = ColourLabel(condition.reason->code, language);
   if (!mild && !colour.empty()) text += " (" + colour + ")";
-  if (condition.tray) text += " (" + TrayLabel(*condition.tray) + ")";
+  if (condition.tray) text += " (" + TrayLabel(*condition.tray, language) + ")";
   return text;
 }
 

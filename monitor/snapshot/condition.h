@@ -45,7 +45,8 @@ void RankConditions(std::vector<Condition>& conditions);
 // the monitor.
 std::vector<uint32_t> DominantCodes(const std::vector<Condition>& conditions);
 
-// In one line for people: the library's words, or the keyword where it has none.
-std::string ConditionText(const Condition& condition);
+// In one line for people: the words that its texts have, or the keyword where there are none.
+// `language` is that of the texts.
+std::string ConditionText(const Condition& condition, const Language& language);
 
 }  // namespace stmon

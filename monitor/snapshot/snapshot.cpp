@@ -6,6 +6,7 @@
 #include "snapshot/outcome.h"
 #include "wire/reply_frame.h"
 #include "words/labels.h"
+#include "words/own_texts.h"
 
 namespace stmon {
 namespace {
@@ -164,8 +165,10 @@ Texts TextsOf(const Snapshot& snapshot, const Codes& codes, const Language& lang
       options && std::any_of(options->begin(), options->end(),
                              [](const Option& option) { return option.code == OptionDuplex; });
   const StatusSample sample(codes, duplex);
-  return IsFlat(snapshot) ? AskTexts(sample.flat, language, codes[0])
-                          : AskTexts(sample.list, language);
+  Texts texts = IsFlat(snapshot) ? AskTexts(sample.flat, language, codes[0])
+                                 : AskTexts(sample.list, language);
+  FillTexts(texts, codes[0], duplex, language);
+  return texts;
 }
 
 std::string IconOf(const Snapshot& snapshot, const Codes& codes) {
@@ -183,7 +186,7 @@ std::string Headline(const Snapshot& snapshot) {
     }
   }
   if (!snapshot.texts.brief.empty() || conditions.empty()) return snapshot.texts.brief;
-  return ConditionText(conditions[0]);
+  return ConditionText(conditions[0], *snapshot.source.language);
 }
 
 // The words are those of what decides, and of nothing else that the record tells.

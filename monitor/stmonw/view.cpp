@@ -34,7 +34,8 @@ std::vector<std::wstring> OtherConditions(const stmon::Snapshot& snapshot) {
     if (condition.dominant) continue;
     std::string text = condition.texts.detail;
     std::replace(text.begin(), text.end(), '\n', ' ');
-    others.push_back(Wide(text.empty() ? stmon::ConditionText(condition) : text));
+    others.push_back(
+        Wide(text.empty() ? stmon::ConditionText(condition, *snapshot.source.language) : text));
   }
   return others;
 }
@@ -92,10 +93,10 @@ std::wstring ClockText(std::chrono::system_clock::time_point when) {
   return text;
 }
 
-std::wstring AgeText(std::chrono::system_clock::duration age) {
+std::wstring AgeText(std::chrono::system_clock::duration age, const stmon::Language& language) {
   const auto shown = std::max(age, std::chrono::system_clock::duration::zero());
-  return Wide(
-      stmon::AgeText(std::chrono::duration_cast<std::chrono::steady_clock::duration>(shown)));
+  return Wide(stmon::AgeText(std::chrono::duration_cast<std::chrono::steady_clock::duration>(shown),
+                             language));
 }
 
 // The first sentence tells what happened; the rest is advice for a command line.

@@ -2,6 +2,8 @@
 
 #include <ctime>
 
+#include "words/phrases.h"
+
 namespace stmon {
 namespace {
 
@@ -34,11 +36,12 @@ std::string LocalText(std::chrono::system_clock::time_point when) {
   return Format(parts, "%Y-%m-%d %H:%M:%S");
 }
 
-std::string AgeText(std::chrono::steady_clock::duration age) {
+std::string AgeText(std::chrono::steady_clock::duration age, const Language& language) {
   const auto seconds = std::chrono::duration_cast<std::chrono::seconds>(age).count();
-  if (seconds < 120) return std::to_string(seconds) + " s";
-  if (seconds < 7200) return std::to_string(seconds / 60) + " min";
-  return std::to_string(seconds / 3600) + " h " + std::to_string(seconds / 60 % 60) + " min";
+  if (seconds < 120) return Say(Phrase::Seconds, language, {std::to_string(seconds)});
+  if (seconds < 7200) return Say(Phrase::Minutes, language, {std::to_string(seconds / 60)});
+  return Say(Phrase::Hours, language,
+             {std::to_string(seconds / 3600), std::to_string(seconds / 60 % 60)});
 }
 
 }  // namespace stmon

@@ -1,95 +1,148 @@
 #include "words/labels.h"
 
 #include "stmdata/stmdata.h"
+#include "words/phrases.h"
 
 namespace stmon {
 namespace {
 
+constexpr uint32_t kAny = 0xFFFFFFFF;  // of a closing row: every other code
+
 struct Label {
   uint32_t code;
-  const char* name;
+  Phrase name;
 };
 
 constexpr Label kTrays[] = {
-    {1, "Bypass tray"},         //
-    {2, "Multi-purpose tray"},  //
-    {3, "Tray 1"},              //
-    {4, "Tray 2"},              //
-    {5, "Tray 3"},              //
-    {6, "Tray 4"},              //
-    {7, "Tray 5"},              //
-    {0, "Tray with id "},       // closing row: any other, its id follows
+    {1, Phrase::TrayBypass},        //
+    {2, Phrase::TrayMultiPurpose},  //
+    {7, Phrase::TrayFive},          //
+    {kAny, Phrase::TrayOther},      // closing row
 };
 
 constexpr Label kOptions[] = {
-    {1, "Duplex unit"},       //
-    {2, "Hard disk unit"},    //
-    {3, "Electronic sort"},   //
-    {11, "Stapler"},          //
-    {12, "Puncher"},          //
-    {105, "Option tray"},     //
-    {0, "Option with code "}  // closing row
+    {1, Phrase::OptionDuplex},    //
+    {2, Phrase::OptionHardDisk},  //
+    {3, Phrase::OptionSort},      //
+    {11, Phrase::OptionStapler},  //
+    {12, Phrase::OptionPuncher},  //
+    {105, Phrase::OptionTray},    //
+    {kAny, Phrase::OptionOther},  // closing row
 };
 
-constexpr Label kLanguages[] = {
-    {1, "NVDL"},                //
-    {2, "OrlexScript2"},        //
-    {3, "PC-PR201H"},           //
-    {4, "ESC/P"},               //
-    {7, "IBM5577"},             //
-    {12, "NV-GL/2"},            //
-    {13, "TIFF"},               //
-    {14, "WXDL-C"},             //
-    {0, "Language with code "}  // closing row
-};
-
-// Papers that the library names in Japanese or not at all.
+// Papers whose names the library has in Japanese or not at all.
 constexpr Label kPapers[] = {
-    {1, "no paper"},       //
-    {2, "free size"},      //
-    {34, "postcard"},      //
-    {41, "not in place"},  //
-    {0, ""},               // closing row: the library knows
+    {PaperNone, Phrase::PaperNone},            //
+    {2, Phrase::PaperFree},                    //
+    {34, Phrase::PaperPostcard},               //
+    {PaperTrayMissing, Phrase::PaperMissing},  //
+    {kAny, Phrase::PaperOther},                // closing row
 };
 
-std::string Find(const Label* row, uint32_t code) {
-  while (row->code != 0 && row->code != code)
+// A reply's state is a bare number; the names are those under which the library files the flags of
+// print manager and network: empty, full, or neither.
+constexpr Label kBinStates[] = {
+    {0, Phrase::BinNotFull},   //
+    {1, Phrase::BinEmpty},     //
+    {2, Phrase::BinFull},      //
+    {kAny, Phrase::BinState},  // closing row
+};
+
+struct LanguageName {
+  uint32_t code;
+  const char* name;  // the same everywhere
+};
+
+constexpr LanguageName kPrinterLanguages[] = {
+    {1, "NVDL"},          //
+    {2, "OrlexScript2"},  //
+    {3, "PC-PR201H"},     //
+    {4, "ESC/P"},         //
+    {7, "IBM5577"},       //
+    {12, "NV-GL/2"},      //
+    {13, "TIFF"},         //
+    {14, "WXDL-C"},       //
+    {kAny, ""},           // closing row
+};
+
+template <class Row>
+const Row& RowOf(const Row* row, uint32_t code) {
+  while (row->code != kAny && row->code != code)
     ++row;
-  return row->code != 0 ? row->name : row->name + std::to_string(code);
+  return *row;
+}
+
+std::string Find(const Label* rows, uint32_t code, const Language& language) {
+  return Say(RowOf(rows, code).name, language, {std::to_string(code)});
 }
 
 }  // namespace
 
-std::string TrayLabel(uint32_t id) {
-  return Find(kTrays, id);
+std::string TrayLabel(uint32_t id, const Language& language) {
+  constexpr uint32_t kFirst = 3, kFourth = 6;
+  if (id >= kFirst && id <= kFourth)
+    return Say(Phrase::TrayNumber, language, {std::to_string(id - kFirst + 1)});
+  return Find(kTrays, id, language);
 }
 
-std::string OptionLabel(uint32_t code) {
-  return Find(kOptions, code);
+std::string OptionLabel(uint32_t code, const Language& language) {
+  return Find(kOptions, code, language);
 }
 
-std::string LanguageLabel(uint32_t code) {
-  return code == 0 ? "unknown" : Find(kLanguages, code);
+std::string LanguageLabel(uint32_t code, const Language& language) {
+  if (code == 0) return Say(Phrase::LanguageUnknown, language);
+  const std::string name = RowOf(kPrinterLanguages, code).name;
+  return name.empty() ? Say(Phrase::LanguageOther, language, {std::to_string(code)}) : name;
 }
 
-std::string BinLabel(uint32_t id) {
-  return id == BinUnknown ? "Unknown bin" : "Bin " + std::to_string(id);
+std::string BinLabel(uint32_t id, const Language& language) {
+  const bool known = id != BinUnknown;
+  return Say(known ? Phrase::BinNumber : Phrase::BinOther, language, {std::to_string(id)});
+}
+
+std::string BinStateLabel(uint32_t state, const Language& language) {
+  return Find(kBinStates, state, language);
+}
+
+std::string ColourLabel(uint32_t code, const Language& language) {
+  constexpr Phrase kColours[] = {Phrase::Cyan, Phrase::Magenta, Phrase::Yellow, Phrase::Black};
+  return *TonerColour(code) == '\0' ? "" : Say(kColours[(code - 65) % 4], language);
+}
+
+std::string SeverityLabel(Severity severity, const Language& language) {
+  switch (severity) {
+    case Severity::Report:
+      return Say(Phrase::SeverityReport, language);
+    case Severity::Warning:
+      return Say(Phrase::SeverityWarning, language);
+    case Severity::Error:
+      return Say(Phrase::SeverityError, language);
+    case Severity::Unknown:
+      break;
+  }
+  return Say(Phrase::SeverityUnknown, language);
 }
 
 // The library names sizes in ASCII and the rest in Japanese or with asterisks; the name of its
 // picture tells how the paper lies.
-std::string PaperLabel(uint32_t code) {
+std::string PaperLabel(uint32_t code, const Language& language) {
   if (code == 0) return {};
-  for (const Label* row = kPapers; row->code != 0; ++row) {
-    if (row->code == code) return row->name;
-  }
   char name[8] = "";
   char picture[17] = "";
   PatGetPaperName_Ex(nullptr, code, name);
   PatGetPaperBitmap_Ex(nullptr, code, picture);
-  if (name[0] == '\0' || name[0] == '*') return "paper with code " + std::to_string(code);
+  if (name[0] < 'A' || name[0] > 'Z') return Find(kPapers, code, language);
   const bool rotated = std::string_view(picture).ends_with("_R");
-  return name + std::string(rotated ? " rotated" : "");
+  return rotated ? Say(Phrase::PaperRotated, language, {name}) : name;
+}
+
+std::string LevelLabel(uint32_t paper, const std::optional<uint32_t>& level,
+                       const Language& language) {
+  constexpr uint32_t kFull = 100;  // per cent
+  if (!level || paper == PaperTrayMissing) return {};
+  const std::string number = paper == PaperNone ? "0" : std::to_string(*level);
+  if (paper != PaperNone && *level > kFull) return number;
+  return Say(Phrase::Percent, language, {number});
 }
 
 }  // namespace stmon

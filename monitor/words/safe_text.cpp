@@ -93,4 +93,11 @@ size_t DisplayWidth(std::string_view utf8_text) {
   return width;
 }
 
+std::string Padded(std::string_view utf8_text, size_t columns) {
+  std::string text(utf8_text);
+  const size_t width = DisplayWidth(text);
+  if (width < columns) text.append(columns - width, ' ');
+  return text;
+}
+
 }  // namespace stmon

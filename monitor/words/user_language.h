@@ -10,7 +10,8 @@
 namespace stmon {
 
 using Language = LocaleRow;
-inline constexpr auto& kLanguages = LocaleTable;  // English first
+inline constexpr auto& kLanguages = LocaleTable;
+inline constexpr const Language& kEnglish = kLanguages[0];
 
 // By code, in any case. Result: null for an unknown one.
 const Language* FindLanguage(std::string_view code);

@@ -77,14 +77,14 @@ TEST_CASE("a printer that is lost and found is told with its last answer, howeve
     return text.substr(text.find("  ") + 2);
   };
   CHECK(line(stmon::Observe(watch, Failed(stmon::Outcome::Refused), now)[0], good)
-            .starts_with("printer     no usable answer (never answered so far): "));
+            .starts_with("Printer     no usable answer (never answered so far): "));
   CHECK(line(stmon::Observe(watch, good, now)[0], good) ==
-        "printer     answers for the first time: Online/Ready\n");
+        "Printer     answers for the first time: Online/Ready\n");
 
   const auto garbage = Failed(stmon::Outcome::NotAReply);
   const auto lost = stmon::Observe(watch, garbage, now + 90s);
   CHECK(
-      line(lost[0], garbage).starts_with("printer     no usable answer (last answer 90 s ago): "));
+      line(lost[0], garbage).starts_with("Printer     no usable answer (last answer 90 s ago): "));
   const std::string json = stmon::EventJson(lost[0], garbage);
   CHECK(json.find("\"last_answer\":\"1970-01-01T00:00:00Z\",\"outcome\":\"not-a-reply\"") !=
         std::string::npos);
@@ -93,7 +93,7 @@ TEST_CASE("a printer that is lost and found is told with its last answer, howeve
   const auto found = stmon::Observe(watch, later, now + 100s);
   CHECK(Summary(found) == "printer back, conditions came 65");
   CHECK(line(found[0], later) ==
-        "printer     answers again (no usable answer for 100 s): Online/Ready\n");
+        "Printer     answers again (no usable answer for 100 s): Online/Ready\n");
   CHECK(stmon::EventJson(found[0], later).find("\"last_answer\":\"1970-01-01T00:00:00Z\"") !=
         std::string::npos);
 }
