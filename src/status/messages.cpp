@@ -31,19 +31,18 @@ Target EmptiedTarget(char* buffer, int32_t size) {
   return {buffer, size, SelectedLanguage()};
 }
 
-// Result: 0 when the text could not be loaded.
-using Loader = uint32_t (*)(uint32_t id, const Target& target);
+using Loader = Loaded (*)(uint32_t id, const Target& target);
 
-uint32_t LoadInThreadLanguage(uint32_t id, const Target& target) {
-  return static_cast<uint32_t>(LoadModuleString(id, target.buffer, target.size));
+Loaded LoadInThreadLanguage(uint32_t id, const Target& target) {
+  return LoadModuleString(id, target.buffer, target.size);
 }
 
-uint32_t LoadInChosenLanguage(uint32_t id, const Target& target) {
+Loaded LoadInChosenLanguage(uint32_t id, const Target& target) {
   return LoadStringIn(target.language, id, target.buffer, target.size);
 }
 
 uint32_t Tell(Loader load, uint32_t id, const Target& target) {
-  return load(id, target) ? 1 : FailWith(PatErrorText);
+  return load(id, target) != Loaded::None ? 1 : FailWith(PatErrorText);
 }
 
 // ---- The status to talk about -------------------------------------------------------------------
@@ -54,6 +53,8 @@ struct Statement {
   Loader load;
 };
 
+// What is wrong is told rather than that the printer is offline: a flat record's code says whether
+// something is, a list-based record's error flag.
 Statement State(const PrnInfo& info, uint32_t code) {
   return {code, !info.online && code <= kLastMildCode, LoadInThreadLanguage};
 }
@@ -136,10 +137,10 @@ Suffix ListSuffix(const DominantStatuses& statuses, LANGID language) {
     if (IsTonerCode(statuses.codes[i])) flagged[ColourOf(statuses.codes[i])] = true;
   }
   for (uint32_t colour = 0; colour < kColours; ++colour) {
-    char name[kColourNameSize];
-    if (flagged[colour] &&
-        LoadStringIn(language, kColourNames[colour].messageId, name, kColourNameSize))
-      AddToSuffix(suffix, name);
+    if (!flagged[colour]) continue;
+    char name[kColourNameSize] = "";  // stays so where the language lacks the name
+    LoadStringIn(language, kColourNames[colour].messageId, name, kColourNameSize);
+    AddToSuffix(suffix, name);
   }
   if (suffix.length > 0) suffix.codePage = CodePageOf(language);
   return suffix;
@@ -156,22 +157,12 @@ void AppendSuffix(const Suffix& suffix, const Target& target) {
   target.buffer[length + kept] = '\0';
 }
 
-// A few free bytes may be where a character had no room: asked again with room enough, the text,
-// which was there a moment ago, tells. Every text of the library is shorter than this.
-bool WasCut(const Statement& statement, uint32_t id, const Target& target) {
-  constexpr int32_t kRoomForAnyText = 512;
-  const size_t length = std::strlen(target.buffer);
-  if (length + kWidestCharacter < static_cast<size_t>(target.size)) return false;
-  char whole[kRoomForAnyText] = "";
-  statement.load(id, {whole, kRoomForAnyText, target.language});
-  return std::strlen(whole) > length;
-}
-
+// A text that was cut has no place for a suffix, even where a few bytes were left free.
 uint32_t TellStatement(const Statement& statement, const Suffix& suffix, const Target& target) {
-  const StatusRow& row = FindRow(statement);
-  if (!Tell(statement.load, row.detailId, target)) return 0;
+  const Loaded loaded = statement.load(FindRow(statement).detailId, target);
+  if (loaded == Loaded::None) return FailWith(PatErrorText);
   const bool wantsSuffix = suffix.length > 0 && !statement.offline;
-  if (wantsSuffix && !WasCut(statement, row.detailId, target)) AppendSuffix(suffix, target);
+  if (wantsSuffix && loaded == Loaded::Whole) AppendSuffix(suffix, target);
   return 1;
 }
 
@@ -201,10 +192,11 @@ uint32_t DuplexMessage(const PrnInfoEx& info, uint32_t code) {
 
 uint32_t TellDetail(PrnInfo& info, const Target& target) {
   if (info.statusCode == StatusReady && NeedsTray(ViewTrays(info), ViewLevels(info), TrayBypass) &&
-      LoadInThreadLanguage(kTrayMessage, target))
+      LoadInThreadLanguage(kTrayMessage, target) != Loaded::None)
     return 1;
   const DominantStatuses statuses = StatusesOf(info);
   const Statement statement = State(info, statuses.codes[0]);
+  // Callers find the chosen code where the record has room for one.
   if (info.statusCount == 1) info.statusList[0] = statement.code;
   return TellStatement(statement, FlatSuffix(statuses), target);
 }
@@ -214,8 +206,9 @@ uint32_t TellDetail(const PrnInfoEx& info, const Target& target) {
   const Statement statement = State(info, statuses.codes[0]);
   if (!statement.offline) {
     if (statement.code == StatusReady && NeedsTray(ViewTrays(info), ViewLevels(info), kNoTray) &&
-        LoadInChosenLanguage(kTrayMessage, target))
+        LoadInChosenLanguage(kTrayMessage, target) != Loaded::None)
       return 1;
+    // A success even where it cannot be loaded.
     if (const uint32_t message = DuplexMessage(info, statement.code)) {
       LoadInChosenLanguage(message, target);
       return 1;

@@ -10,6 +10,7 @@ import sys
 JAPANESE_ONLY = {404, 434, 502, 600, 604, 634, 682, 687, 689, 690, 702, 703, 706, 718, 719}
 COLOURS, DEVICES = range(930, 934), (925, 926)
 LONGEST = 255  # bytes, toner colours included: what the guide's buffer of 256 takes
+ROOM = 511  # bytes in which the library makes a text, whatever the code page: UTF-8 takes most
 ROOT = pathlib.Path(__file__).resolve().parents[2]
 folder = ROOT / "src/resources/strings"
 faults = []
@@ -59,6 +60,7 @@ for code, id, page in rows:
         faults.append(f"{language}: the colour names do not fit the toner suffix")
     if max(map(len, encoded.values())) + suffix > LONGEST:
         faults.append(f"{language}: a text may be longer than {LONGEST} bytes")
+    faults += [f"{language} {id}: longer than {ROOM} bytes in UTF-8" for id, text in texts.items() if len(text.encode()) > ROOM]
     faults += [f"{language} {id}: longer than 30 bytes" for id in DEVICES if len(encoded.get(id, b"")) > 30]
 print("\n".join(faults))
 sys.exit(bool(faults))

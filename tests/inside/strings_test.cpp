@@ -29,13 +29,12 @@ void Select(const char* name) {
 
 std::string Localized(uint32_t id) {
   char text[400];
-  return stm::LoadLocalizedString(id, text, sizeof text) ? text : "(none)";
+  return stm::LoadLocalizedString(id, text, sizeof text) == stm::Loaded::Whole ? text : "(none)";
 }
 
 std::string OfThread(uint32_t id) {
   char text[400];
-  const int32_t length = stm::LoadModuleString(id, text, sizeof text);
-  return length ? std::string(text, static_cast<size_t>(length)) : "(none)";
+  return stm::LoadModuleString(id, text, sizeof text) == stm::Loaded::Whole ? text : "(none)";
 }
 
 bool IsCentralEuropean(LANGID language) {
@@ -69,22 +68,23 @@ std::string Beginning(UINT codePage, const std::string& text, size_t bytes) {
   return text.substr(0, at);
 }
 
-// Asks for a text at every size and finds its beginning and a terminator, and nothing behind.
+// Asks for a text at every size and finds its beginning and a terminator, and nothing after it.
 template <class Loader>
 void CheckEverySize(Loader load, uint32_t id, UINT codePage, const std::string& whole) {
   for (int32_t size = 1; size <= static_cast<int32_t>(whole.size()) + 2; ++size) {
     CAPTURE(size);
     test::GuardedBytes buffer(std::string(static_cast<size_t>(size), 'x'));
-    load(id, buffer.data(), size);
+    const bool fits = whole.size() < static_cast<size_t>(size);
+    CHECK((load(id, buffer.data(), size) == stm::Loaded::Whole) == fits);
     CHECK(std::string(buffer.data()) == Beginning(codePage, whole, static_cast<size_t>(size) - 1));
     CHECK(buffer.neighboursUntouched());
   }
   for (int32_t size : {0, -1, INT32_MIN}) {
     char untouched = 'x';
-    CHECK(load(id, &untouched, size) == 0);
+    CHECK(load(id, &untouched, size) == stm::Loaded::None);
     CHECK(untouched == 'x');
   }
-  CHECK(load(id, nullptr, 100) == 0);
+  CHECK(load(id, nullptr, 100) == stm::Loaded::None);
 }
 
 }  // namespace
@@ -119,7 +119,7 @@ TEST_CASE("localized texts come in the language's code page, empty where it has 
 
 TEST_CASE("before a language is chosen there are texts, whatever the user's is") {
   char text[400];
-  CHECK(stm::LoadStringIn(0, 400, text, sizeof text) == 1);
+  CHECK(stm::LoadStringIn(0, 400, text, sizeof text) == stm::Loaded::Whole);
   CHECK(text != std::string());
 }
 

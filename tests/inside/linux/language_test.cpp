@@ -109,7 +109,7 @@ TEST_CASE("the thread's language chooses table and code page; one without a tabl
     CHECK(text == row.codePage);
     for (const LANGID language : {LANGID{0}, row.language})
       CHECK(std::to_string(stm::CodePageOf(language)) == row.codePage);
-    CHECK(stm::LoadStringIn(0, 400, text, sizeof text) == 1);
+    CHECK(stm::LoadStringIn(0, 400, text, sizeof text) == stm::Loaded::Whole);
     CHECK(text == row.ready);
   }
   SetThreadUILanguage(0x0411);
