@@ -3,6 +3,7 @@
 #include <numeric>
 
 #include "source.h"
+#include "stmdata/languages.h"
 
 namespace {
 

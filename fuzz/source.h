@@ -5,6 +5,7 @@
 #include <cstdint>
 #include <cstring>
 #include <memory>
+#include <set>
 #include <vector>
 
 #include "stmdata/release.h"
@@ -108,23 +109,30 @@ inline void DrawNode(Source& source, FontNode& node) {
   DrawNumber(source, node.reserved);
 }
 
-// A chain of up to 40 nodes from GlobalAlloc with any contents, and a count that often fits it.
+// A chain of up to 40 nodes from GlobalAlloc with any contents, and a count that often fits it. Now
+// and then the chain leads back into itself; its nodes are then entered into `endless`.
 template <class Node>
-void DrawList(Source& source, Node*& head, uint32_t& count) {
+void DrawList(Source& source, Node*& head, uint32_t& count, std::set<void*>& endless) {
   const uint32_t length = source.Below(4) ? source.Below(6) : source.Below(41);
+  std::vector<Node*> nodes;
   Node** link = &head;
   for (uint32_t i = 0; i < length; ++i) {
     auto* node = static_cast<Node*>(GlobalAlloc(GPTR, sizeof(Node)));
     node->nodeSize = sizeof(Node);
     DrawNode(source, *node);
-    *link = node;
+    nodes.push_back(*link = node);
     link = &node->next;
   }
-  count = source.Below(4) ? length : source.Number();
+  const uint8_t choice = source.Byte();
+  count = choice % 4 ? length : source.Number();
+  if (choice < 0xFC || nodes.empty()) return;
+  *link = nodes[nodes.size() * (choice - 0xFCu) / 4];
+  endless.insert(nodes.begin(), nodes.end());
 }
 
 inline char* DrawText(Source& source) {
   const uint8_t length = source.Byte();
+  if (length == 0xFF) return reinterpret_cast<char*>(STM_ABSENT_POINTER);
   if (length > 40) return nullptr;
   auto* text = static_cast<char*>(GlobalAlloc(GPTR, length + 1u));
   for (uint8_t i = 0; i < length; ++i)
@@ -140,20 +148,33 @@ uint32_t Length(const Node* head) {
   return length;
 }
 
-// A list-based record with real chains, released at the end.
+// A list-based record with real chains, released at the end: those without an end by itself, since
+// no call releases their nodes.
 struct ListRecord : PrnInfoEx {
   ListRecord() : PrnInfoEx{} {}
   ListRecord(const ListRecord&) = delete;
   ListRecord& operator=(const ListRecord&) = delete;
-  ~ListRecord() { ReleasePrnInfoEx(this); }
+  ~ListRecord() {
+    if (!endless_.empty()) {
+      TakeNodes(statusList), TakeNodes(trayList), TakeNodes(binList);
+      TakeNodes(optionList), TakeNodes(emulationList), TakeNodes(fontList);
+      endless_.merge(taken_);
+      for (void* node : endless_)
+        GlobalFree(node);
+    }
+    ReleasePrnInfoEx(this);
+  }
+
+  // Whether one of its chains, as it was drawn, has no end: calls then take their longest.
+  bool IsEndless() const { return !endless_.empty(); }
 
   void Draw(Source& source) {
-    DrawList(source, statusList, statusCount);
-    DrawList(source, trayList, trayCount);
-    DrawList(source, binList, binCount);
-    DrawList(source, optionList, optionCount);
-    DrawList(source, emulationList, emulationCount);
-    DrawList(source, fontList, fontCount);
+    DrawList(source, statusList, statusCount, endless_);
+    DrawList(source, trayList, trayCount, endless_);
+    DrawList(source, binList, binCount, endless_);
+    DrawList(source, optionList, optionCount, endless_);
+    DrawList(source, emulationList, emulationCount, endless_);
+    DrawList(source, fontList, fontCount, endless_);
     for (char** text :
          {&modelName, &manufacturer, &description, &versionText1, &versionText2, &versionText3})
       *text = DrawText(source);
@@ -163,6 +184,17 @@ struct ListRecord : PrnInfoEx {
     for (uint8_t* flag : {&offline, &modelCode, &online, &hasError, &printing, &noResponse})
       *flag = source.Below(3) ? source.Byte() & 1 : source.Byte();
   }
+
+ private:
+  template <class Node>
+  void TakeNodes(Node*& head) {
+    for (Node* node = head; node && taken_.insert(node).second;)
+      node = node->next;
+    head = nullptr;
+  }
+
+  std::set<void*> endless_;
+  std::set<void*> taken_;
 };
 
 // A flat record of any bytes, the numbers among them often small.
