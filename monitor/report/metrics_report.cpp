@@ -140,9 +140,10 @@ LastAnswer ReadLastAnswer(std::string_view metrics, const Snapshot& snapshot) {
   double seconds = 0;
   const auto [end, error] = std::from_chars(value.data(), value.data() + value.size(), seconds);
   const std::chrono::duration<double> since(seconds);
-  // Whatever else the file holds, no answer came before 1970 or after this poll.
-  const bool good =
-      error == std::errc() && seconds >= 0 && since <= snapshot.when.time_since_epoch();
+  // Whatever else the file holds, no answer came before 1970 or after this poll, but for the
+  // millisecond that the file's time is rounded to.
+  const auto latest = snapshot.when.time_since_epoch() + std::chrono::milliseconds(1);
+  const bool good = error == std::errc() && seconds >= 0 && since <= latest;
   if (!good) return {};
   return std::chrono::system_clock::time_point(
       std::chrono::duration_cast<std::chrono::system_clock::duration>(since));
