@@ -2,7 +2,7 @@
 
 may_enter_roots() {
   [ "$(id -u)" -eq 0 ] || { say "$1 needs root to make and enter its Debian root ($2)"; return 1; }
-  unshare --mount true 2>/dev/null || { say "this machine does not allow the mounts that $1 ($2) needs"; return 1; }
+  unshare --mount --propagation unchanged true 2>/dev/null || { say "this machine does not allow the mounts that $1 ($2) needs"; return 1; }
 }
 
 # One line of progress: rewritten on a terminal, a line for each stage elsewhere.
@@ -42,18 +42,22 @@ make_debian_root() {
 }
 
 # run_in_root ROOT HOME [NAME=VALUE...] COMMAND...: runs a command inside the root, in this project's
-# folder. The mounts live in a mount namespace of this call and vanish with it.
+# folder. The mounts live in a mount namespace of this call. Inside a changed root it cannot be made
+# private, and what is mounted in it may show outside: therefore all is unmounted again.
 run_in_root() {
-  local root=$1 home=$2 here
+  local root=$1 home=$2 here propagation=private
   shift 2
   here=$(pwd)
   mkdir -p "$home" "$root$here"
-  unshare --mount --propagation private bash -c '
+  unshare --mount --propagation private true 2>/dev/null || propagation=unchanged
+  unshare --mount --propagation "$propagation" bash -c '
     root=$1 here=$2 home=$3
     shift 3
-    mount --bind /proc "$root/proc" && mount --bind /dev "$root/dev" &&
+    trap "umount --lazy \"$root$here\" \"$root/tmp\" \"$root/dev\" \"$root/proc\" 2>/dev/null" EXIT
+    { mount -t proc proc "$root/proc" 2>/dev/null || mount --bind /proc "$root/proc"; } &&
+      mount --bind /dev "$root/dev" &&
       mount -t tmpfs tmpfs "$root/tmp" && mkdir -p "$root$here" && mount --bind "$here" "$root$here" || exit 1
-    exec chroot "$root" env -i PATH=/usr/sbin:/usr/bin:/sbin:/bin HOME="$home" USER=root LANG=C.UTF-8 \
+    chroot "$root" env -i PATH=/usr/sbin:/usr/bin:/sbin:/bin HOME="$home" USER=root LANG=C.UTF-8 \
       TERM=dumb CI="${CI:-}" sh -c "cd \"\$0\" && exec env \"\$@\"" "$here" "$@"
   ' debian-root "$root" "$here" "$home" "$@"
 }

@@ -36,22 +36,25 @@ programs() {
   rm -f "$log"
 }
 
-# windows_programs PRESET WIDTH: all test programs of a Windows build, in one visit to the Wine of that
-# width, on a virtual display.
+# windows_programs PRESET WIDTH LOCALE TEST...: test programs of a Windows build for a user of that
+# locale, in one visit to the Wine of that width, on a virtual display.
 windows_programs() {
-  local preset=$1 width=$2 program reason
+  local preset=$1 width=$2 locale=$3 program reason
+  shift 3
   if ! reason=$(tools/wine.sh available "$width" 2>&1); then
     [ "${CI:-}" != true ] || { count_failure "no Wine, and CI skips nothing: $reason"; return; }
-    skipped=$((skipped + ${#all_tests[@]}))
+    skipped=$((skipped + $#))
     say "  skipped: the Windows programs, because $reason; run ./test as root to have them"
     return
   fi
   rm -f "build/$preset"/*.log
   tools/wine.sh run "$width" xvfb-run -a -s "-screen 0 1280x1024x24" sh -c '
+    export LC_ALL="$1"
+    shift
     cd "$0" && for program; do
       wine "$program.exe" >"$program.log" 2>&1
-    done' "build/$preset" "${all_tests[@]}" || count_failure "the Wine of $width bits"
-  for program in "${all_tests[@]}"; do
+    done' "build/$preset" "$locale" "$@" || count_failure "the Wine of $width bits"
+  for program in "$@"; do
     count_program "$preset $program" "build/$preset/$program.log"
   done
 }
