@@ -47,7 +47,7 @@ enum {
 enum {
   PatErrorNone = 0,
   PatErrorNotFound = 1,   /* no row for the code, or nothing to look at */
-  PatErrorNullRecord = 2, /* a null record was handed in */
+  PatErrorNullRecord = 2, /* a null record, row, buffer or list was handed in */
   PatErrorText = 3,       /* the text cannot be loaded, or is empty in this language */
   PatErrorPicture = 5     /* the picture was not produced */
 };
@@ -112,7 +112,7 @@ typedef struct BinNode { /* 12 or 16 bytes */
   struct BinNode* next;  /*  0  0 */
   uint32_t nodeSize;     /*  4  8 */
   uint16_t binId;        /*  8 12  1 to 15, 255 unknown */
-  uint16_t binState; /* 10 14  as the printer reports it; print manager 1 or 2, network 0 to 2 */
+  uint16_t binState; /* 10 14  as the printer reports it; from the print manager 1 or 2 */
 } BinNode;
 STM_AT(BinNode, next, 0, sizeof(void*));
 STM_AT(BinNode, nodeSize, STM_EITHER(4, 8), 4);
@@ -254,7 +254,7 @@ STM_SIZE(TrayLevel, 8);
 
 typedef struct BinEntry {
   uint32_t binId;    /*   0 */
-  uint32_t binState; /*   4 */
+  uint32_t binState; /*   4  as in BinNode; from network lists 0 to 2 */
 } BinEntry;
 STM_AT(BinEntry, binId, 0, 4);
 STM_AT(BinEntry, binState, 4, 4);

@@ -186,8 +186,8 @@ STM_API uint32_t STM_CALL PatGetHelpContext_Ex(uint32_t first, uint32_t second, 
    A code without an icon gives BMP_ERR_CAUTION; an offline printer in a mild state ICO_OFFLINE. A
    record with several statuses shows the dominant one; printing and a missing response count only
    then.
-   _Ex     shows the dominant status; a printer that does not respond ICO_ERR_POWEROFF, one without
-           a listed status ICO_ONLINE, printing or not */
+   _Ex     shows the dominant status; a printer that does not respond ICO_ERR_POWEROFF, an online
+           one without a listed status ICO_ONLINE, printing or not */
 STM_API uint32_t STM_CALL PatGetErrParts(const PrnInfo* info, char* buffer);
 STM_API uint32_t STM_CALL PatGetErrParts_Ex(const PrnInfoEx* info, char* buffer);
 
@@ -244,6 +244,8 @@ STM_API uint32_t STM_CALL PatGetTrayRect_Ex(uint32_t info, uint32_t tray, uint32
                    cleared. Codes that do not fit are dropped
    Result  64 composed, whatever the size; 0 failed and both lists untouched; PatGetError:
            1 null record, 5 `size` below 16 or a null list
+   The printer is seen from the front. Of the back there are units without it: optional trays (39
+   and 45), the duplex unit (91, 96, 97); of 89, 90 and 94 the optional trays from the front.
    _Ex     draws covers at the back and the duplex unit in a view from behind */
 STM_API uint32_t STM_CALL PatGetPrnBitmapEx(const PrnInfo* info, uint8_t* partCodes,
                                             uint8_t* extraPartCodes, int32_t size);
@@ -306,17 +308,25 @@ STM_API uint32_t STM_CALL PatGetStatusFromNet(uint32_t status);
    groups  set of Group... bits; GroupDeviceId means GroupModelInfo here, GroupDuplex nothing
    Result  1 converted, also where a group was absent and nothing was written for it. 0: nothing
            written, GetLastError 6: `info` or `pm` is null
-   GroupModelInfo always sets the maker "ORLEX" and drops the description. No trays or bins (count
-   0) change nothing. In use: the tray's id, the bin's position from 0, the language's code.
+   GroupModelInfo always sets the maker "ORLEX" and drops the description. A group without items
+   changes nothing but the statuses. In use: the tray's id (0 when absent or out of range), the
+   bin's position from 0 (255 when absent, else not checked), the language's code (0 when absent,
+   STM_ABSENT when out of range). The status list gets the items, then the network's status or else
+   at most one of the state bits' codes, unless it is listed: energy saver, warming up, or ready
+   without any bit. An empty one becomes ready. An item without a code is listed as 65535.
    Paper of unknown size and options of unknown device keep the code that their node had. A text
    that cannot be allocated becomes null; a list that cannot grow reports the length it has.
    _0      into the flat record. Result 0 without an error value also when a selected group lacks
-           its source (for languages and fonts also when it has no item, for statuses when an item
-           has no code); all others are converted. Tray, bin and language in use are stored as the
-           print manager numbers them. Counts tell what was stored, at most the array's capacity.
-           Texts are cut to their field, never inside a double-byte character of code page 932. A
-           count of 0 empties the counts of trays and bins. GroupOptions clears hasDuplex,
-           option2Flag to option4Flag and the option bits, also when it then fails */
+           its source (for languages and fonts also when it has no item; the status list fails only
+           when an item has no code, and leaves that out); all others are converted. Tray, bin and
+           language in use are stored as the print manager numbers them, 0, 255 and 0 when absent.
+           Both state codes, energy saver and warming up, can be listed; without any bit none is.
+           `statusCode` becomes 102 when the state tells no response and is never written
+           otherwise: neither the list nor an answer takes that back. Counts tell what was stored,
+           at most the array's capacity. Texts are cut to their field, never inside a double-byte
+           character of code page 932. A count of 0 empties the counts of trays and bins.
+           GroupOptions clears hasDuplex, option2Flag to option4Flag and the option bits, also when
+           it then fails */
 STM_API uint32_t STM_CALL PatSetPMPrnInfoToPrnInfo(PrnInfoEx* info, const PMPrnInfo* pm,
                                                    uint32_t groups);
 STM_API uint32_t STM_CALL PatSetPMPrnInfoToPrnInfo_0(PrnInfo* info, const PMPrnInfo* pm,
