@@ -3,9 +3,6 @@
 
 #include <cstddef>
 #include <cstdint>
-#include <string>
-
-#include "doctest/doctest.h"
 
 namespace test {
 
@@ -18,22 +15,5 @@ struct Checksum {
   }
   void Add(uint32_t number) { Add(&number, sizeof number); }
 };
-
-// A sum over all that a table can be asked, and its value when the answers were checked.
-struct RecordedSum {
-  const char* table;
-  void (*add)(Checksum& sum);
-  uint32_t recorded;
-};
-
-template <size_t Count>
-void CheckRecorded(const RecordedSum (&rows)[Count]) {
-  for (const RecordedSum& row : rows) {
-    INFO(std::string(row.table));
-    Checksum sum;
-    row.add(sum);
-    CHECK(sum.value == row.recorded);
-  }
-}
 
 }  // namespace test

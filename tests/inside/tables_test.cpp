@@ -1,9 +1,9 @@
-// The tables that are asked by name, and those whose answers no call shows one by one. Checksums as
-// in tables_test.cpp: the names come from the tables, the answers from the look-up.
+// The tables that are asked by name, and those whose answers no call shows one by one. The names
+// come from the tables, the answers from the look-up.
 #include <algorithm>
 
-#include "checksum.h"
 #include "doctest/doctest.h"
+#include "kept.h"
 #include "names/description_names.h"
 #include "names/emulation_codes.h"
 #include "names/font_names.h"
@@ -18,23 +18,26 @@
 
 namespace {
 
-using test::Checksum;
+using test::Lines;
 
-void Add(Checksum& sum, const char* text) {
-  sum.Add(text, std::strlen(text) + 1);
+std::string InOneLine(Lines& lines) {
+  std::string line = lines.Text();
+  line.pop_back();
+  std::replace(line.begin(), line.end(), '\n', ',');
+  return line;
 }
 
 template <const auto& table>
-void AddNames(Checksum& sum) {
+void AddNames(Lines& lines) {
   for (const stm::NameCode& row : table) {
-    if (row.name.data()) Add(sum, row.name.data());
-    sum.Add(static_cast<uint32_t>(stm::LookupNameCode<table>(row.name.data() ? row.name : "?")));
+    const std::string name(row.name.data() ? row.name : "?");
+    lines.Add(test::Quoted(name) + test::Listed(stm::LookupNameCode<table>(name)));
   }
 }
 
 // The codes that the network's names get; trays, bins and options each in a call of their own.
-void AddNetworkNames(Checksum& sum) {
-  const auto ask = [&sum](uint32_t mode, const char* name, const char* mediaName) {
+void AddNetworkNames(Lines& lines) {
+  const auto ask = [&lines](uint32_t mode, const char* name, const char* mediaName) {
     PrnInfo info{};
     const NetTrayEntry tray{name, 0, mediaName};
     const NetBinEntry bin{name, 0};
@@ -42,13 +45,12 @@ void AddNetworkNames(Checksum& sum) {
     const void* entry = mode == NetModeTrays ? static_cast<const void*>(&tray) : &bin;
     const NetOptionEntry* optionEntry = &option;
     const NetInfoList list{1, 0, &optionEntry, &entry};
-    Add(sum, name);
-    Add(sum, mediaName);
-    sum.Add(PatGetInfoFromNet(&info, mode, &list));
-    for (const uint32_t word :
-         {info.trayList[0].trayId, info.trayList[0].paperCode, info.binList[0].binId,
-          info.hasDuplex, info.option2Flag, info.option3Flag, info.optionBits1, info.optionBits2})
-      sum.Add(word);
+    const uint32_t result = PatGetInfoFromNet(&info, mode, &list);
+    lines.Add(test::Quoted(name) + ' ' + test::Quoted(mediaName) + test::Listed(result) + " tray" +
+              test::Listed(info.trayList[0].trayId, info.trayList[0].paperCode) + " bin" +
+              test::Listed(info.binList[0].binId) + " duplex" + test::Listed(info.hasDuplex) +
+              " options" +
+              test::Listed(info.option2Flag, info.option3Flag, info.optionBits1, info.optionBits2));
   };
   for (const stm::NetName& row : stm::kNetInputTrayTable)
     ask(NetModeTrays, row.name, "");
@@ -60,64 +62,79 @@ void AddNetworkNames(Checksum& sum) {
     ask(NetModeOptions, row.name, "");
 }
 
-void AddDescriptionNames(Checksum& sum) {
+void AddDescriptionNames(Lines& lines) {
   for (const stm::DesName& row : stm::kDesNameTable) {
     char name[32] = "";
     uint8_t code = 0;
-    if (row.key) Add(sum, row.key);
-    bGetDesName(row.key ? row.key : "?", name, &code);
-    Add(sum, name);
-    sum.Add(code);
+    const char* key = row.key ? row.key : "?";
+    bGetDesName(key, name, &code);
+    lines.Add(test::Quoted(key) + ' ' + test::Quoted(name) + test::Listed(code));
   }
 }
 
-void AddPaperSizes(Checksum& sum) {
+// In millimetres: a line for widths that are alike.
+void AddPaperSizes(Lines& lines) {
   for (uint32_t width = 0; width < 450; ++width) {
+    Lines lengths;
     for (uint32_t length = 0; length < 450; ++length)
-      sum.Add(stm::PaperCode(test::Tray("", nullptr, 0, width, length), 0));
+      lengths.Add(length,
+                  std::to_string(stm::PaperCode(test::Tray("", nullptr, 0, width, length), 0)));
+    lines.Add(width, InOneLine(lengths));
   }
 }
 
-void AddStatusClasses(Checksum& sum) {
+void AddStatusClasses(Lines& lines) {
   for (uint32_t code = 0; code < 0x10000; ++code)
-    sum.Add(stm::StatusClass(code));
+    lines.Add(code, std::to_string(stm::StatusClass(code)));
 }
 
-// Which of two statuses counts, and which share a place, while printing and not.
-void AddPriorities(Checksum& sum) {
+// Which of two statuses counts, "first", "second" or both, and after "printing" which one does
+// then: a line for the first, in it the ranges of the second.
+void AddPriorities(Lines& lines) {
   for (uint32_t first = 0; first < 112; ++first) {
+    Lines seconds;
     for (uint32_t second = 0; second < 112; ++second) {
+      const auto name = [=](uint32_t code) {
+        return code == first    ? std::string("first")
+               : code == second ? "second"
+                                : std::to_string(code);
+      };
       PrnInfo info{};
       info.statusList[0] = first;
       info.statusList[1] = second;
       info.statusCount = 2;
       const stm::DominantStatuses dominant = stm::GetDominantStatuses(info);
-      uint32_t codes[stm::kMostDominant] = {};
-      std::copy_n(dominant.codes, dominant.count, codes);
-      sum.Add(dominant.count);
-      sum.Add(codes, sizeof codes);
+      std::string answer;
+      for (uint32_t i = 0; i < dominant.count; ++i)
+        answer += name(dominant.codes[i]) + ' ';
       info.printing = 1;
-      sum.Add(stm::GetDominantStatus(info));
+      seconds.Add(second, answer + "printing " + name(stm::GetDominantStatus(info)));
     }
+    lines.Add(first, InOneLine(seconds));
   }
 }
 
 }  // namespace
 
 TEST_CASE("every name has the code that was checked, and so has every pair of statuses") {
-  const test::RecordedSum rows[] = {
-      {"printer languages of a reply", AddNames<stm::kEmulationCodeTable>, 0x8E1A6A55},
-      {"fonts", AddNames<stm::kFontNameTable>, 0xCD064F2D},
-      {"models", AddNames<stm::kModelNameTable>, 0x79A1AC82},
-      {"description names", AddDescriptionNames, 0x67F883F3},
-      {"the network's names", AddNetworkNames, 0x7E497615},
-      {"the print manager's trays", AddNames<stm::kInputTrayNameTable>, 0xA671FD83},
-      {"the print manager's bins", AddNames<stm::kOutputBinNameTable>, 0xA48C50C8},
-      {"the print manager's languages", AddNames<stm::kEmulationNameTable>, 0xBABF4CA4},
-      {"the print manager's paper", AddNames<stm::kPaperNameTable>, 0x7E87C1FF},
-      {"the print manager's paper sizes", AddPaperSizes, 0x8FACC256},
-      {"classes of the statuses", AddStatusClasses, 0xE195BFC7},
-      {"priorities of the statuses", AddPriorities, 0x890CBAFA},
+  struct Row {
+    const char* name;
+    void (*add)(Lines& lines);
   };
-  test::CheckRecorded(rows);
+  for (const Row& row : {Row{"reply_languages", AddNames<stm::kEmulationCodeTable>},
+                         {"fonts", AddNames<stm::kFontNameTable>},
+                         {"models", AddNames<stm::kModelNameTable>},
+                         {"description_names", AddDescriptionNames},
+                         {"network_names", AddNetworkNames},
+                         {"manager_trays", AddNames<stm::kInputTrayNameTable>},
+                         {"manager_bins", AddNames<stm::kOutputBinNameTable>},
+                         {"manager_languages", AddNames<stm::kEmulationNameTable>},
+                         {"manager_paper", AddNames<stm::kPaperNameTable>},
+                         {"manager_paper_sizes", AddPaperSizes},
+                         {"status_classes", AddStatusClasses},
+                         {"status_priorities", AddPriorities}}) {
+    Lines lines;
+    row.add(lines);
+    test::CheckKept(row.name, lines.Text());
+  }
 }
