@@ -19,7 +19,10 @@ constexpr const char* kFooter =
     "Examples:\n"
     "  stmon 192.0.2.10                      ask a printer\n"
     "  stmon --scenario no-paper --json      ask the simulated one, as JSON\n"
-    "  stmon --scenario list                 name what can be simulated";
+    "  stmon --scenario list                 name what can be simulated\n"
+    "  stmon check 192.0.2.10                be a monitoring plugin";
+
+constexpr const char* kNoTarget = "is not a printer's address; HOST, HOST:PORT or [IPV6]:PORT are";
 
 bool IsTarget(const std::string& text) {
   Target target;
@@ -66,7 +69,7 @@ void Describe(CLI::App& app, Options& options) {
   app.footer(kFooter);
   app.add_option("PRINTER", options.printer, "HOST or HOST:PORT, port 9100 unless given")
       ->option_text(" ")
-      ->check(Must(IsTarget, "is not a printer's address; HOST, HOST:PORT or [IPV6]:PORT are"));
+      ->check(Must(IsTarget, kNoTarget));
   app.add_option("--reply", options.replyFile, "show a saved reply instead of asking a printer")
       ->option_text("FILE  ('-': standard input)");
   app.add_option("--device-id", options.deviceId,
@@ -110,6 +113,72 @@ void Describe(CLI::App& app, Options& options) {
   app.set_version_flag("--version", std::string("stmon ") + STMON_VERSION);
 }
 
+constexpr const char* kCheckFooter =
+    "\nPrints one line, with -v more, and ends like a monitoring plugin:\n"
+    "0 OK, 1 WARNING, 2 CRITICAL, 3 UNKNOWN. A RANGE is a least level (10),\n"
+    "or START:END with ~ for no start, alerting outside it, with @ inside.\n"
+    "Example:\n"
+    "  stmon check 192.0.2.10 -w 10 -c 5 --ignore-tray bypass";
+
+void DescribeThreshold(CLI::App& app, const char* names, Threshold& threshold, const char* what) {
+  app.add_option_function<std::string>(
+         names, [&threshold](const std::string& text) { ParseThreshold(text, threshold); }, what)
+      ->option_text("RANGE")
+      ->check(Must(
+          [](const std::string& text) {
+            Threshold ignored;
+            return ParseThreshold(text, ignored);
+          },
+          "is no range of levels"));
+}
+
+void DescribeCheck(CLI::App& app, CheckOptions& options) {
+  app.name("stmon check");
+  app.description("Asks a printer how it is, as a monitoring plugin.");
+  app.footer(kCheckFooter);
+  app.add_option("PRINTER", options.ask.printer, "HOST or HOST:PORT, port 9100 unless given")
+      ->option_text(" ")
+      ->required()
+      ->check(Must(IsTarget, kNoTarget));
+  DescribeThreshold(app, "-w,--warning", options.rules.warning, "of paper in per cent, each tray");
+  DescribeThreshold(app, "-c,--critical", options.rules.critical, "likewise");
+  app.add_option("--ignore", options.rules.ignoredReasons,
+                 "a condition that does not count: toner-low; may be repeated")
+      ->option_text("REASON")
+      ->expected(1)
+      ->take_all()
+      ->check(
+          Must(IsReasonKeyword, "is no reason; --json of a printer and the catalogue have them"));
+  app.add_option_function<std::vector<std::string>>(
+         "--ignore-tray",
+         [&options](const std::vector<std::string>& names) {
+           for (const std::string& name : names)
+             options.rules.ignoredTrays.push_back(TrayNamed(name));
+         },
+         "a tray that does not count; may be repeated")
+      ->option_text("1..5|bypass|multi")
+      ->expected(1)
+      ->take_all()
+      ->check(Must([](const std::string& name) { return TrayNamed(name) != 0; }, "is no tray"));
+  app.add_option("--misses", options.misses,
+                 "polls before silence is told, in equal parts of the time; default 1")
+      ->option_text("N")
+      ->check(CLI::Range(1, 100));
+  app.add_option("--offline-as", options.ask.offlineAs, "what being offline is, default critical")
+      ->option_text("ok|warning|critical|unknown")
+      ->check(CLI::IsMember({"ok", "warning", "critical", "unknown"}));
+  options.ask.timeout = 10;  // as plugins have it
+  app.add_option("-t,--timeout", options.ask.timeout, "for the whole run, default 10")
+      ->option_text("SECONDS")
+      ->check(Seconds(0.1, 3600));
+  app.add_option("--lang", options.ask.language, "of the words, default from the locale")
+      ->option_text("CODE")
+      ->check(Must([](const std::string& text) { return FindLanguage(text) != nullptr; },
+                   "is not one of " + LanguageCodes()));
+  app.add_flag("-v,--verbose", options.verbose, "a report after the line");
+  app.set_version_flag("-V,--version", std::string("stmon ") + STMON_VERSION);
+}
+
 std::vector<std::string> GivenOptions(const CLI::App& app) {
   std::vector<std::string> given;
   for (const CLI::Option* option : app.get_options()) {
@@ -128,17 +197,13 @@ std::string FindEmptyValue(const std::vector<std::string>& arguments) {
   return {};
 }
 
-Parsed WrongUsage(const std::string& what) {
-  return {"", what + ".\n'stmon --help' shows the options."};
+Parsed WrongUsage(const CLI::App& app, const std::string& what) {
+  return {"", what + ".\n'" + app.get_name() + " --help' shows the options."};
 }
 
-}  // namespace
-
-Parsed ParseCommandLine(std::vector<std::string> arguments, Options& options) {
-  std::string wrong = FindEmptyValue(arguments);
-  if (!wrong.empty()) return WrongUsage(wrong);
-  CLI::App app;
-  Describe(app, options);
+Parsed Parse(CLI::App& app, std::vector<std::string> arguments) {
+  const std::string wrong = FindEmptyValue(arguments);
+  if (!wrong.empty()) return WrongUsage(app, wrong);
   for (CLI::Option* option : app.get_options()) {
     if (option->get_items_expected_min() > 0)
       option->check(Must(IsValue, "is no value: it is empty or begins like an option"));
@@ -151,10 +216,26 @@ Parsed ParseCommandLine(std::vector<std::string> arguments, Options& options) {
   } catch (const CLI::CallForVersion& version) {
     return {version.what() + std::string("\n"), ""};
   } catch (const CLI::ParseError& error) {
-    return WrongUsage(CleanUtf8(error.what()));
+    return WrongUsage(app, CleanUtf8(error.what()));
   }
-  wrong = FindClash(options, GivenOptions(app));
-  return wrong.empty() ? Parsed{} : WrongUsage(wrong);
+  return {};
+}
+
+}  // namespace
+
+Parsed ParseCommandLine(std::vector<std::string> arguments, Options& options) {
+  CLI::App app;
+  Describe(app, options);
+  const Parsed parsed = Parse(app, std::move(arguments));
+  if (!parsed.output.empty() || !parsed.complaint.empty()) return parsed;
+  const std::string clash = FindClash(options, GivenOptions(app));
+  return clash.empty() ? Parsed{} : WrongUsage(app, clash);
+}
+
+Parsed ParseCheckLine(std::vector<std::string> arguments, CheckOptions& options) {
+  CLI::App app;
+  DescribeCheck(app, options);
+  return Parse(app, std::move(arguments));
 }
 
 }  // namespace stmon

@@ -4,6 +4,7 @@
 #include <string>
 #include <vector>
 
+#include "stmon/check.h"
 #include "stmon/options.h"
 
 namespace stmon {
@@ -17,5 +18,8 @@ struct Parsed {
 // `arguments` begin with the first one behind the program's name. Addresses, ports, languages and
 // numbers have been looked at when the complaint is empty.
 Parsed ParseCommandLine(std::vector<std::string> arguments, Options& options);
+
+// The same for what follows "stmon check".
+Parsed ParseCheckLine(std::vector<std::string> arguments, CheckOptions& options);
 
 }  // namespace stmon

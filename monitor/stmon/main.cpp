@@ -2,6 +2,7 @@
 #include "report/catalogue.h"
 #include "report/gallery.h"
 #include "simulator/simulated_printer.h"
+#include "stmon/check.h"
 #include "stmon/command_line.h"
 #include "stmon/poll.h"
 #include "system/streams.h"
@@ -102,6 +103,8 @@ int main(int count, char** values) {
   stmon::PrepareStreams();
   auto arguments = stmon::Arguments(count, values);
   if (!arguments.empty()) arguments.erase(arguments.begin());
+  if (!arguments.empty() && arguments[0] == "check")
+    return stmon::Finish(stmon::Check({arguments.begin() + 1, arguments.end()}));
   stmon::Options options;
   const stmon::Parsed parsed = stmon::ParseCommandLine(std::move(arguments), options);
   if (!parsed.complaint.empty()) return stmon::Fail(parsed.complaint);

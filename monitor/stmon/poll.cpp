@@ -54,18 +54,6 @@ Snapshot AskFile(const Options& options) {
       std::move(exchange));
 }
 
-Snapshot AskNetwork(const Options& options, const Target& target, const std::string& name) {
-  const auto timeout = std::chrono::milliseconds(static_cast<int64_t>(options.timeout * 1000));
-  const auto begin = std::chrono::steady_clock::now();
-  Source source = SourceOf(options, name);
-  source.query = BuildQuery();
-  Exchange exchange = AskPrinter(target, source.query, timeout);
-  Snapshot snapshot = ReadExchange(std::move(source), std::move(exchange));
-  snapshot.took = std::chrono::duration_cast<std::chrono::milliseconds>(
-      std::chrono::steady_clock::now() - begin);
-  return snapshot;
-}
-
 // '-' is standard output. Result: the file could be written; if not, that has been told. What could
 // not be printed is told at the end.
 bool WriteFile(const std::string& name, const std::string& bytes) {
@@ -191,6 +179,18 @@ int Fail(const std::string& message) {
 const Language& ChosenLanguage(const Options& options) {
   const Language* language = FindLanguage(options.language);
   return language ? *language : UserLanguage();
+}
+
+Snapshot AskNetwork(const Options& options, const Target& target, const std::string& name) {
+  const auto timeout = std::chrono::milliseconds(static_cast<int64_t>(options.timeout * 1000));
+  const auto begin = std::chrono::steady_clock::now();
+  Source source = SourceOf(options, name);
+  source.query = BuildQuery();
+  Exchange exchange = AskPrinter(target, source.query, timeout);
+  Snapshot snapshot = ReadExchange(std::move(source), std::move(exchange));
+  snapshot.took = std::chrono::duration_cast<std::chrono::milliseconds>(
+      std::chrono::steady_clock::now() - begin);
+  return snapshot;
 }
 
 int ShowDeviceId(const Options& options) {

@@ -3,6 +3,7 @@
 
 #include <string>
 
+#include "snapshot/snapshot.h"
 #include "stmon/options.h"
 #include "wire/transport.h"
 #include "words/user_language.h"
@@ -13,6 +14,8 @@ namespace stmon {
 int Fail(const std::string& message);
 
 const Language& ChosenLanguage(const Options& options);
+
+Snapshot AskNetwork(const Options& options, const Target& target, const std::string& name);
 
 // The results of these are exit statuses.
 

@@ -69,5 +69,11 @@ for line, expected in ((["--timeout", "nan"], 3), ([""], 3), (["--watch", "1", "
     done = run(*line)
     check(f"{line}: {done}", done.returncode == expected and bool(done.stderr) == (expected == 3))
 
+# A monitoring plugin always prints one line, and knows 3 for everything that is no answer.
+for line, expected in (([], 3), ([""], 3), (["127.0.0.1:1"], 3), (["--no-such", "a"], 3), (["a", "-w", ""], 3)):
+    done = run("check", *line)
+    check(f"check {line}: {done}", done.returncode == expected and done.stdout.startswith(b"UNKNOWN - ")
+          and done.stdout.count(b"\n") == 1 and not done.stderr)
+
 print("\n".join(faults))
 sys.exit(bool(faults))

@@ -87,7 +87,8 @@ with tempfile.TemporaryDirectory() as folder:
             faults.append(f"{picture.name}: another picture than stmon's; run docs/images/draw.sh")
 
 manual = (ROOT / "docs/stmon.1").read_text(encoding="utf-8")
-options = set(re.findall(r"^  (?:-h,)?--([\w-]+)", printed(BUILD / "stmon", "--help").decode(), re.M))
+helps = printed(BUILD / "stmon", "--help") + printed(BUILD / "stmon", "check", "--help")
+options = set(re.findall(r"^  (?:-\w,)?--([\w-]+)", helps.decode(), re.M))
 named = set(re.findall(r"^\.It Fl Fl ([\w-]+)", manual, re.M))
 faults += [f"stmon.1: --{name} is not in both" for name in sorted(options ^ named)]
 
