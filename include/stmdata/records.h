@@ -112,7 +112,7 @@ typedef struct BinNode { /* 12 or 16 bytes */
   struct BinNode* next;  /*  0  0 */
   uint32_t nodeSize;     /*  4  8 */
   uint16_t binId;        /*  8 12  1 to 15, 255 unknown */
-  uint16_t binState; /* 10 14  as the printer reports it; from the print manager 1 or 2 */
+  uint16_t binState;     /* 10 14  as the printer reports it; from the print manager 1 or 2 */
 } BinNode;
 STM_AT(BinNode, next, 0, sizeof(void*));
 STM_AT(BinNode, nodeSize, STM_EITHER(4, 8), 4);
