@@ -1,4 +1,5 @@
-# What `cmake --install` lays down, for both systems the same tree; docs/packaging.md shows it.
+# What `cmake --install` lays down, for both systems nearly the same tree; docs/packaging.md shows it. On
+# Windows the libraries of both widths are made to lie in one tree, each in a folder of its own.
 # Components: library, development, monitor, documents.
 include(GNUInstallDirs)
 include(CMakePackageConfigHelpers)
@@ -53,13 +54,23 @@ configure_file(cmake/stmdata.pc.in stmdata.pc @ONLY)
 install(FILES ${CMAKE_CURRENT_BINARY_DIR}/stmdata.pc DESTINATION ${CMAKE_INSTALL_LIBDIR}/pkgconfig
   COMPONENT development)
 
+# In a tree with both widths, the one that a project finds first.
+if(WIN32)
+  write_basic_package_version_file(either-width-config-version.cmake COMPATIBILITY SameMajorVersion
+    ARCH_INDEPENDENT)
+  install(FILES ${CMAKE_CURRENT_BINARY_DIR}/either-width-config-version.cmake
+    RENAME stmdata-config-version.cmake DESTINATION cmake COMPONENT development)
+  install(FILES cmake/either-width-config.cmake RENAME stmdata-config.cmake
+    DESTINATION cmake COMPONENT development)
+endif()
+
 # ---- To read ----------------------------------------------------------------------------------
 
 if(WIN32)
   set(doc_folder doc)
   set(examples_parent .)
 else()
-  set(doc_folder ${CMAKE_INSTALL_DATAROOTDIR}/doc/stmdata)
+  set(doc_folder ${CMAKE_INSTALL_DOCDIR})
   set(examples_parent ${doc_folder})
 endif()
 install(FILES README.md CHANGELOG.md DESTINATION ${doc_folder} COMPONENT documents)
@@ -86,7 +97,7 @@ foreach(name IN LISTS third_party)
   endif()
 endforeach()
 file(CONFIGURE OUTPUT third-party.txt CONTENT "@notices@" @ONLY)
-install(FILES ${CMAKE_CURRENT_BINARY_DIR}/third-party.txt DESTINATION ${doc_folder} COMPONENT documents)
+install(FILES ${CMAKE_CURRENT_BINARY_DIR}/third-party.txt DESTINATION ${doc_folder} COMPONENT monitor)
 
 if(EXISTS ${CMAKE_SOURCE_DIR}/examples)
   install(DIRECTORY examples DESTINATION ${examples_parent} COMPONENT documents)

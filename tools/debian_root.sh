@@ -1,30 +1,16 @@
-# A Debian i386 root of its own, made once and kept outside the checkout. Sourced after common.sh.
+# Debian roots of their own, made once and kept outside the checkout. Sourced after common.sh.
 
 may_enter_roots() {
   [ "$(id -u)" -eq 0 ] || { say "$1 needs root to make and enter its Debian root ($2)"; return 1; }
   unshare --mount --propagation unchanged true 2>/dev/null || { say "this machine does not allow the mounts that $1 ($2) needs"; return 1; }
 }
 
-# One line of progress: rewritten on a terminal, a line for each stage elsewhere.
-show_root_progress() {
-  awk -v name="$1" -v total="$2" -v tty="$([ -t 2 ] && echo 1 || echo 0)" '
-    /^I: Retrieving/ { stage = "fetching" } /^I: (Extracting|Unpacking)/ { stage = "unpacking" }
-    /^I: Configuring/ { stage = "configuring" }
-    /^I:/ {
-      steps++
-      if (tty) printf "\r  %s: %s, step %d of about %d   ", name, stage, steps, total > "/dev/stderr"
-      else if (stage != last) { print "  " name ": " stage > "/dev/stderr"; last = stage }
-    }
-    /^[EW]:/ { print > "/dev/stderr" }
-    END { if (tty) print "" > "/dev/stderr" }'
-}
-
-# make_debian_root FOLDER NAME COST STEPS [PACKAGES]: nothing to do when it is there. COST is told to
-# the user; STEPS is how many lines debootstrap says, for the progress; PACKAGES have commas.
+# make_debian_root ARCHITECTURES FOLDER NAME COST [PACKAGES]: nothing to do when it is there. The first
+# of the architectures is the root's own; COST is told to the user; lists have commas.
 make_debian_root() {
-  local root=$1 name=$2 cost=$3 steps=$4 packages=${5:-} codename mirror
+  local architectures=$1 root=$2 name=$3 cost=$4 packages=${5:-} codename mirror
   [ -f "$root/.complete" ] && return 0
-  need_packages debootstrap || return 1
+  need_packages mmdebstrap arch-test || return 1
   codename=$(. /etc/os-release && echo "$VERSION_CODENAME")
   mirror_of() { apt-get indextargets --format '$(REPO_URI) $(CODENAME)' | awk -v c="$codename" '$2 == c { print $1; exit }'; }
   mirror=$(mirror_of)
@@ -33,9 +19,11 @@ make_debian_root() {
   say "Making the $name in $root: once, $cost"
   rm -rf "$root.new"
   mkdir -p "$(dirname "$root")"
-  debootstrap --arch=i386 --variant=minbase ${packages:+--include="$packages"} "$codename" "$root.new" "$mirror" |
-    show_root_progress "$name" "$steps"
-  [ "${PIPESTATUS[0]}" -eq 0 ] || { say "debootstrap failed; see $root.new/debootstrap/debootstrap.log"; return 1; }
+  mmdebstrap --architectures="$architectures" --variant=minbase ${packages:+--include="$packages"} \
+    "$codename" "$root.new" "$mirror" 2>&1 | awk -v name="$name" '
+    /^I: (running|downloading|extracting|installing)/ { sub("^I: ", ""); print "  " name ": " $0; fflush() }
+    /^[EW]:/' >&2
+  [ "${PIPESTATUS[0]}" -eq 0 ] || { say "mmdebstrap failed"; return 1; }
   touch "$root.new/.complete"
   rm -rf "$root"
   mv "$root.new" "$root"

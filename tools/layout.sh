@@ -1,7 +1,9 @@
 #!/usr/bin/env bash
-# The files of an installed tree, sorted, from the table in docs/packaging.md: the one written list.
+# The files of an installed tree or a package, sorted, from the table in docs/packaging.md: the one written
+# list.
 #
-#   tools/layout.sh linux|linux-library|windows|debian|zip
+#   tools/layout.sh linux | linux-library | windows | zip
+#   tools/layout.sh PACKAGE TRIPLET      of a Debian package, for the architecture of this name
 #
 # linux-library is what a Linux build without the monitor installs.
 set -eu
@@ -23,20 +25,30 @@ files() {
   done
 }
 
+# What stands for x86/ is in x64/ as well.
 rows() {
   sed -n '/^| file /,/^$/p' docs/packaging.md |
-    awk -F ' *[|] *' -v column="$1" '$2 ~ /^`.*`$/ && $column == "x" { gsub("`", "", $2); print $2 }' |
+    awk -F ' *[|] *' -v column="$1" '$2 ~ /^`.*`$/ && $column == "x" {
+      gsub("`", "", $2)
+      print $2
+      if (sub("^x86/", "x64/", $2)) print $2
+    }' |
     sed "s/VERSION/$version/"
 }
 
-case "${1:-}" in
-  linux) files 3 ;;
-  linux-library) files 3 | grep -E '^(include|lib)/' ;;
-  windows) files 4 ;;
-  debian) files 5 | sed -E 's,^,usr/,; s,^usr/lib/,usr/lib/i386-linux-gnu/,' ;;
-  zip) files 6 ;;
+# debian COLUMN PACKAGE TRIPLET
+debian() { files "$1" | sed -E "s,^lib/,lib/$3/,; s,^share/doc/stmdata/,share/doc/$2/,; s,^,usr/,"; }
+
+case "${1:-} ${2:-}" in
+  'linux ') files 3 ;;
+  'linux-library ') files 3 | grep -E '^(include|lib)/' ;;
+  'windows ') files 4 ;;
+  'zip ') files 4 && echo SHA256SUMS ;;
+  'libstmdata0 '*-*) debian 5 "$@" ;;
+  'libstmdata-dev '*-*) debian 6 "$@" ;;
+  'stmon '*-*) debian 7 "$@" ;;
   *)
-    sed -n '4,6s/^# *//p' "$0" >&2
+    sed -n '5,8s/^# *//p' "$0" >&2
     exit 2
     ;;
 esac | LC_ALL=C sort

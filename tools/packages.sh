@@ -1,13 +1,22 @@
-# Makes and tries the two packages; sourced by ./package, from the project's folder.
+# Makes and tries the packages; sourced by ./package, from the project's folder.
 
 version=$(sed -nE 's/^project\(.* VERSION ([0-9.]+).*/\1/p' CMakeLists.txt)
-zip_name=stmdata-$version-windows-i686
-deb_name=stmdata_${version}_i386
-stage=build/package
+zip_name=stmdata-$version-windows
+stage=$PWD/build/package
+
+# Debian packages by architecture; what each contains is in debian/control.
+debs_of() {
+  case $1 in
+    amd64) echo libstmdata0 libstmdata-dev stmon ;;
+    i386) echo libstmdata0 libstmdata-dev ;;
+  esac
+}
 
 # All dates in the packages are that of the last commit.
 export SOURCE_DATE_EPOCH=${SOURCE_DATE_EPOCH:-$(git log -1 --format=%ct)}
 export TZ=UTC LC_ALL=C
+
+# ---- Zip ------------------------------------------------------------------------------------------
 
 # settle FOLDER: nothing about this machine or moment remains in modes and dates.
 settle() {
@@ -19,125 +28,151 @@ settle() {
 
 files_of() { (cd "$1" && find . ! -type d -printf '%P\n' | sort); }
 
-# same_layout COLUMN FOLDER: exactly the files that docs/packaging.md lists.
+# same_layout WHAT... <FILES: exactly those that docs/packaging.md lists for it.
 same_layout() {
-  diff <(tools/layout.sh "$1") <(files_of "$2") >&2 && return 0
-  say "$1: < is only listed in docs/packaging.md, > is only in the package"
+  diff <(tools/layout.sh "$@") - >&2 && return 0
+  say "$*: < is only listed in docs/packaging.md, > is only in the package"
   return 1
 }
 
 make_zip() {
-  local top=$stage/$zip_name
+  local top=$stage/$zip_name width
   say "Packing dist/$zip_name.zip"
-  rm -rf "$top" && mkdir -p "$top" dist && rm -f "dist/$zip_name.zip"
-  quietly "installing" cmake --install build/windows --prefix "$top" --strip || return 1
+  rm -rf "$top" && mkdir -p "$top" dist
+  for width in windows windows64; do
+    quietly "installing" cmake --install build/$width --prefix "$top" --strip || return 1
+  done
   (cd "$top" && files_of . | xargs -d '\n' sha256sum >../sums && mv ../sums SHA256SUMS)
-  same_layout zip "$top" || return 1
+  files_of "$top" | same_layout zip || return 1
   settle "$top"
-  (cd $stage && find "$zip_name" | sort | zip -q -X -9 -@ "$OLDPWD/dist/$zip_name.zip")
+  (cd "$stage" && find "$zip_name" | sort | zip -q -X -9 -@ "$OLDPWD/dist/$zip_name.zip")
 }
 
-# The oldest C library that has every symbol version the programs use, and the C++ run-time where one
-# needs it. The numbers are read from the files; the build machine's package lists are amd64's.
-dependencies() {
-  local needed glibc
-  glibc=$(objdump -T "$@" 2>/dev/null | grep -oE 'GLIBC_[0-9.]+' | sort -uV | tail -n 1)
-  printf 'libc6 (>= %s)' "${glibc#GLIBC_}"
-  needed=$(readelf -d "$@" | sed -nE 's/.*NEEDED.*\[(.*)\]/\1/p' | sort -u)
-  case $needed in *libgcc_s.so.1*) printf ', libgcc-s1 (>= 4.2)' ;; esac
-  case $needed in *libstdc++.so.6*) printf ', libstdc++6 (>= %s)' "$(g++ -dumpversion)" ;; esac
-}
+# ---- Debian ---------------------------------------------------------------------------------------
 
-make_deb() {
-  local top=$stage/$deb_name doc
-  say "Packing dist/$deb_name.deb"
-  rm -rf "$top" && mkdir -p "$top/DEBIAN" dist && rm -f "dist/$deb_name.deb"
-  DESTDIR=$PWD/$top quietly "installing" cmake --install build/debian --strip || return 1
-  doc=$top/usr/share/doc/stmdata
-  gzip -9n "$top/usr/share/man/man1/stmon.1"
-  gzip -9n >"$doc/changelog.gz" <<CHANGELOG
+# A copy of what git knows, with the changelog that the version and the last commit make.
+debian_source() {
+  rm -rf "$1" && mkdir -p "$1"
+  git ls-files -z | xargs -0 cp -P --parents -t "$1"
+  cat >"$1/debian/changelog" <<CHANGELOG
 stmdata ($version) stable; urgency=medium
 
   * Release $version.
 
- -- stmdata developers <stmdata@invalid>  $(date -R -d "@$SOURCE_DATE_EPOCH")
+ -- $(sed -n 's/^Maintainer: //p' debian/control)  $(date -R -d "@$SOURCE_DATE_EPOCH")
 CHANGELOG
-  (cd "$top" && files_of usr | sed 's,^,usr/,' | xargs -d '\n' -I{} sh -c '[ -L "{}" ] || md5sum "{}"' >DEBIAN/md5sums)
-  (cd "$top" && find usr ! -type d | sort) | diff <(tools/layout.sh debian) - >&2 ||
-    { say "debian: < is only listed in docs/packaging.md, > is only in the package"; return 1; }
-  if readelf -d "$top"/usr/bin/* | grep -E '(RPATH|RUNPATH)' >&2; then
-    say "debian: a program looks for the library in a place of its own"
-    return 1
-  fi
-  cat >"$top/DEBIAN/control" <<CONTROL
-Package: stmdata
-Version: $version
-Architecture: i386
-Maintainer: stmdata developers <stmdata@invalid>
-Installed-Size: $(find "$top/usr" -type f -printf '%s\n' | awk '{ kib += int(($1 + 1023) / 1024) } END { print kib }')
-Depends: $(dependencies "$top"/usr/bin/* "$top"/usr/lib/i386-linux-gnu/libstmdata.so)
-Section: libs
-Priority: optional
-Description: status data of a colour laser printer
- The library that turns what a colour laser printer says into records, codes,
- texts and pictures, its headers, and the monitor stmon.
-CONTROL
-  echo "libstmdata ${version%%.*} stmdata" >"$top/DEBIAN/shlibs"
-  echo 'activate-noawait ldconfig' >"$top/DEBIAN/triggers"
-  settle "$top"
-  quietly "dpkg-deb" dpkg-deb --root-owner-group -Zxz --threads-max=1 --build "$top" "dist/$deb_name.deb"
 }
 
-write_sums() { (cd dist && sha256sum "$deb_name.deb" "$zip_name.zip" >SHA256SUMS); }
-show_result() { (cd dist && ls -l "$deb_name.deb" "$zip_name.zip" SHA256SUMS); }
+# make_debs ARCHITECTURE: amd64 on this machine, i386 in a Debian of that architecture.
+make_debs() {
+  local architecture=$1 folder=$stage/$1/stmdata-$version name file reason
+  if [ "$architecture" = i386 ] && ! reason=$(may_enter_roots "building for i386" "$build_root" 2>&1); then
+    say "No Debian packages for i386: $reason"
+    return 0
+  fi
+  say "Building the Debian packages for $architecture"
+  rm -rf "${stage:?}/$architecture"
+  debian_source "$folder" || return 1
+  case $architecture in
+    amd64) (cd "$folder" && quietly "dpkg-buildpackage" dpkg-buildpackage -us -uc -b) || return 1 ;;
+    i386)
+      make_build_root && quietly "dpkg-buildpackage in the i386 root" run_in_root "$build_root" /root \
+        SOURCE_DATE_EPOCH="$SOURCE_DATE_EPOCH" TZ=UTC setarch i386 sh -c \
+        'cd "$0" && dpkg-buildpackage -us -uc -b' "$folder" || return 1
+      ;;
+  esac
+  for name in $(debs_of "$architecture"); do
+    file=${name}_${version}_$architecture.deb
+    dpkg-deb --fsys-tarfile "$stage/$architecture/$file" | tar -t | sed -n 's,^\./\(.*[^/]\)$,\1,p' | sort |
+      same_layout "$name" "$(dpkg-architecture -a"$architecture" -qDEB_HOST_MULTIARCH 2>/dev/null)" || return 1
+    cp "$stage/$architecture/$file" dist/
+  done
+}
+
+# Errors fail; what else lintian says is shown.
+ask_lintian() { say "lintian:" && lintian --fail-on error "$stage"/*/*.changes >&2; }
+
+write_sums() { (cd dist && sha256sum -- *.deb *.zip >SHA256SUMS); }
+show_result() { ls -l dist; }
+
+# ---- Roots ----------------------------------------------------------------------------------------
+
+cache=${STMDATA_ROOTS:-/var/cache/stmdata}
+build_root=$cache/build-i386
+try_root=$cache/debian-amd64
+
+make_build_root() {
+  make_debian_root i386 "$build_root" "Debian i386 root" "a minute or two, 590 MB" \
+    binutils-mingw-w64-i686,cmake,debhelper,g++,ninja-build,pkg-config
+}
+make_try_root() {
+  make_debian_root amd64,i386 "$try_root" "clean Debian root" "a minute or two, 650 MB" \
+    cmake,g++-multilib,make,pkg-config,libstdc++6:i386
+}
 
 # ---- Try-outs -------------------------------------------------------------------------------------
 
 # The zip alone in an empty folder, its name with a blank; the programs run there under Wine.
 try_zip() {
-  local place="$stage/an empty folder" reason
+  local place="$stage/an empty folder" reason width folder
   say "Trying the zip under Wine"
   rm -rf "$place" && mkdir -p "$place"
   quietly "unpacking" unzip -q "dist/$zip_name.zip" -d "$place" || return 1
   (cd "$place/$zip_name" && quietly "the sums" sha256sum -c --strict SHA256SUMS) || return 1
-  if ! reason=$(tools/wine.sh available 32 2>&1); then
-    say "  not run: $reason"
-    return 0
-  fi
-  quietly "the zip's programs" tools/wine.sh run 32 sh -eu -c '
-    cd "$0/$1/bin"
-    wine stmon.exe --version >answer
-    grep -F "$2" answer
-    status=0
-    wine stmon.exe --scenario no-paper >answer || status=$?
-    cat answer
-    [ "$status" -eq 2 ] && [ -s answer ]
-  ' "$place" "$zip_name" "$version"
+  for width in 32 64; do
+    [ $width = 32 ] && folder=x86 || folder=x64
+    if ! reason=$(tools/wine.sh available $width 2>&1); then
+      say "  $folder: not run: $reason"
+      continue
+    fi
+    quietly "the zip's programs in $folder" tools/wine.sh run $width sh -euc '
+      cd "$0"
+      wine stmon.exe --version >answer
+      grep -F "$1" answer
+      status=0
+      wine stmon.exe --scenario no-paper >answer || status=$?
+      cat answer
+      rm answer
+      [ "$status" -eq 2 ]
+    ' "$place/$zip_name/$folder/bin" "$version" || return 1
+  done
 }
 
-# Installed, used and removed in a Debian that has the base system only. What is written there lives
-# in memory and is gone afterwards.
-try_deb() {
-  local root=${STMDATA_DEBIAN_ROOT:-/var/cache/stmdata/debian-i386} reason
-  if ! reason=$(may_enter_roots "the clean Debian" "$root" 2>&1); then
-    say "The Debian package was not tried: $reason"
+# Installed, used, built against and removed in clean Debians. What is written there lives in memory and
+# is gone afterwards.
+try_debs() {
+  local reason
+  if ! reason=$(may_enter_roots "the clean Debian" "$try_root" 2>&1); then
+    say "The Debian packages were not tried: $reason"
     return 0
   fi
-  make_debian_root "$root" "clean Debian i386 root" "about a minute, 210 MB" 400 || return 1
-  say "Trying the Debian package in a clean Debian"
-  quietly "the Debian package" unshare --mount --propagation private bash -euc '
-    root=$1 deb=$2 version=$3
+  make_try_root && make_build_root || return 1
+  say "Trying the Debian packages of both architectures beside each other in a clean Debian amd64"
+  try_in_root "$try_root" libstmdata0:amd64 libstmdata-dev:amd64 stmon:amd64 libstmdata0:i386 libstmdata-dev:i386 || return 1
+  say "Trying those for i386 in a Debian i386"
+  try_in_root "$build_root" libstmdata0:i386 libstmdata-dev:i386
+}
+
+# try_in_root ROOT PACKAGE:ARCHITECTURE...
+try_in_root() {
+  local root=$1
+  shift
+  quietly "the Debian packages" unshare --mount --propagation private bash -euc '
+    root=$1 version=$2
+    shift 2
     mount -t tmpfs tmpfs /mnt
     mkdir /mnt/upper /mnt/work /mnt/debian
     mount -t overlay overlay -o "lowerdir=$root,upperdir=/mnt/upper,workdir=/mnt/work" /mnt/debian
     mkdir /mnt/debian/try
-    cp "$deb" /mnt/debian/try/stmdata.deb
-    cp tools/try_deb.sh /mnt/debian/try/
+    for package; do cp "dist/${package%:*}_${version}_${package#*:}.deb" /mnt/debian/try/; done
+    cp -r tools/try_deb.sh tests/consumer /mnt/debian/try/
+    sed -nE "s/^ *(\w+) = \w+@[0-9]+ @[0-9]+$/\1/p" src/exports/stmdata.def | grep -v "^DllMain$" |
+      cat - src/exports/host_functions.txt | sed "s/.*/EXPORT(&)/" >/mnt/debian/try/consumer/exports.inc
     mount --bind /proc /mnt/debian/proc
     mount --bind /dev /mnt/debian/dev
     exec chroot /mnt/debian env -i PATH=/usr/sbin:/usr/bin:/sbin:/bin HOME=/try LANG=C.UTF-8 \
-      /try/try_deb.sh "$version"
-  ' clean-debian "$root" "dist/$deb_name.deb" "$version"
+      /try/try_deb.sh "$version" "$@"
+  ' clean-debian "$root" "$version" "$@"
 }
 
 # Another folder, another day: the packages are made again from the commit and compared.

@@ -29,7 +29,7 @@ run() {
   settings=(WINEPREFIX="$home/prefix" WINEDEBUG=-all WINEDLLOVERRIDES=mscoree,mshtml=)
   case $1 in
     32)
-      make_debian_root "$root" "32-bit Wine root" "about two minutes, 1.3 GB" 1030 "$root_packages" &&
+      make_debian_root i386 "$root" "32-bit Wine root" "about two minutes, 1.3 GB" "$root_packages" &&
         run_in_root "$root" "$home" "${settings[@]}" "${@:2}"
       ;;
     64)

@@ -18,21 +18,28 @@ names() { sed -nE 's/^ *(\w+) = \w+@[0-9]+ @[0-9]+$/\1/p' src/exports/stmdata.de
 warnings=(-std=c99 -Wall -Wextra -Wpedantic -Werror)
 names >"$work/names"
 
-# install_tree PRESET LAYOUT [COMPONENT...]: installed, compared with the list, moved.
+# install_tree TREE LAYOUT PRESETS [COMPONENT...]: installed, compared with the list, moved.
 install_tree() {
-  local preset=$1 layout=$2 component
-  shift 2
-  mkdir -p "$work/$preset"
-  for component in "${@:-}"; do
-    cmake --install "build/$preset" --prefix "$work/first/$preset" --strip ${component:+--component "$component"} >/dev/null
+  local tree=$1 layout=$2 presets=$3 preset component
+  shift 3
+  for preset in $presets; do
+    for component in "${@:-}"; do
+      cmake --install "build/$preset" --prefix "$work/first/$tree" --strip ${component:+--component "$component"} >/dev/null
+    done
   done
-  mv "$work/first/$preset" "$work/$preset/tree"
-  (cd "$work/$preset/tree" && find . ! -type d -printf '%P\n' | LC_ALL=C sort) >"$work/$preset/found"
-  tools/layout.sh "$layout" >"$work/$preset/listed"
-  diff "$work/$preset/listed" "$work/$preset/found" ||
-    fail "$preset: < only listed in docs/packaging.md, > only installed"
-  cp tests/consumer/* "$work/$preset"
-  sed 's/.*/EXPORT(&)/' "$work/names" >"$work/$preset/exports.inc"
+  mkdir "$work/$tree"
+  mv "$work/first/$tree" "$work/$tree/tree"
+  (cd "$work/$tree/tree" && find . ! -type d -printf '%P\n' | LC_ALL=C sort) >"$work/$tree/found"
+  tools/layout.sh "$layout" >"$work/$tree/listed"
+  diff "$work/$tree/listed" "$work/$tree/found" ||
+    fail "$tree: < only listed in docs/packaging.md, > only installed"
+}
+
+# a_consumer FOLDER: what a stranger's project there consists of.
+a_consumer() {
+  mkdir -p "$1"
+  cp tests/consumer/* "$1"
+  sed 's/.*/EXPORT(&)/' "$work/names" >"$1/exports.inc"
 }
 
 # quiet_cmake SOURCE FOLDER ARGUMENT...: configures and builds.
@@ -46,6 +53,7 @@ quiet_cmake() {
 try_linux() {
   local preset=$1 width=$2 flag=${3:-} program
   local tree=$work/$preset/tree
+  a_consumer "$work/$preset"
   sed 's/.*/EXPORT(&)/' src/exports/host_functions.txt >>"$work/$preset/exports.inc"
   cd "$work/$preset"
   export PKG_CONFIG_PATH=$tree/lib/pkgconfig
@@ -68,43 +76,43 @@ try_linux() {
   cd "$here"
 }
 
-install_tree native linux
-install_tree linux linux-library library development
+install_tree native linux native
+install_tree linux linux-library linux library development
 try_linux native 64
 try_linux linux 32 -m32
 
 # ---- Windows --------------------------------------------------------------------------------------
 
-# try_windows PRESET WIDTH PROCESSOR
+# try_windows WIDTH PROCESSOR FOLDER: a consumer of the tree's library in that folder.
 try_windows() {
-  local preset=$1 width=$2 mingw=$3-w64-mingw32 program reason
-  local tree=$work/$preset/tree compiler=$mingw-gcc-posix
-  cd "$work/$preset"
-  export PKG_CONFIG_PATH=$tree/lib/pkgconfig
-  quiet_cmake . by-cmake -DCMAKE_TOOLCHAIN_FILE="$here/cmake/mingw-$3.cmake" -DCMAKE_PREFIX_PATH="$tree"
+  local width=$1 mingw=$2-w64-mingw32 folder=$work/windows/$3 program reason
+  local tree=$work/windows/tree compiler=$mingw-gcc-posix
+  a_consumer "$folder"
+  cd "$folder"
+  export PKG_CONFIG_PATH=$tree/$3/lib/pkgconfig
+  quiet_cmake . by-cmake -DCMAKE_TOOLCHAIN_FILE="$here/cmake/mingw-$2.cmake" -DCMAKE_PREFIX_PATH="$tree"
   mv by-cmake/consumer.exe by-cmake.exe
   $compiler "${warnings[@]}" consumer.c $(pkg-config --cflags --libs stmdata) -o by-pkg-config.exe
-  $compiler "${warnings[@]}" -Itree/include consumer.c -Ltree/lib -lstmdata -o by-hand.exe
-  $compiler "${warnings[@]}" -DBARE -Itree/include -c consumer.c
+  $compiler "${warnings[@]}" -I"$tree/include" consumer.c -L"$tree/$3/lib" -lstmdata -o by-hand.exe
+  $compiler "${warnings[@]}" -DBARE -I"$tree/include" -c consumer.c
   lld-link /nologo /entry:Start /subsystem:console /nodefaultlib /safeseh:no /out:by-stmdata-lib.exe consumer.o \
-    tree/lib/stmdata.lib "$($compiler -print-file-name=libkernel32.a)"
-  cp tree/bin/stmdata.dll .
+    "$tree/$3/lib/stmdata.lib" "$($compiler -print-file-name=libkernel32.a)"
+  cp "$tree/$3/bin/stmdata.dll" .
   for program in by-*.exe; do
     $mingw-objdump -p "$program" | awk '/DLL Name:/ { ours = $3 == "stmdata.dll" }
       ours && NF == 3 && $1 ~ /^[0-9a-f]+$/ { print $3 }' | LC_ALL=C sort >imported
-    LC_ALL=C sort "$work/names" | diff - imported || fail "$preset $program: > is imported, < should be"
+    LC_ALL=C sort "$work/names" | diff - imported || fail "$3 $program: > is imported, < should be"
   done
   cd "$here"
   if reason=$(tools/wine.sh available "$width" 2>&1); then
     tools/wine.sh run "$width" sh -c 'cd "$0" && for program in by-*.exe; do
-      wine "$program" || { echo "$0 $program: exit status $?"; exit 1; }; done' "build/install-check/$preset"
+      wine "$program" || { echo "$0 $program: exit status $?"; exit 1; }; done' "build/install-check/windows/$3"
   else
-    echo "The programs of $preset were built but not run: $reason"
+    echo "The programs of $3 were built but not run: $reason"
   fi
 }
 
-install_tree windows windows
-install_tree windows64 windows
-try_windows windows 32 i686
-try_windows windows64 64 x86_64
+install_tree windows windows "windows windows64"
+try_windows 32 i686 x86
+try_windows 64 x86_64 x64
 rm -rf "$work"
