@@ -6,6 +6,7 @@
 #include "system/wide_text.h"
 #include "words/clock.h"
 #include "words/labels.h"
+#include "words/phrases.h"
 #include "words/safe_text.h"
 
 namespace stmonw {
@@ -14,8 +15,15 @@ namespace {
 using stmon::Wide;
 
 constexpr uint32_t kPaperLevelIcon = 1;  // kind of PatGetIconName
-constexpr uint32_t kFullTray = 100;      // per cent
-constexpr const wchar_t* kInUse = L" (in use)";
+
+std::wstring SayWide(stmon::Phrase phrase, const stmon::Language& language,
+                     std::initializer_list<std::string_view> values = {}) {
+  return Wide(stmon::Say(phrase, language, values));
+}
+
+std::wstring InUse(const stmon::Language& language) {
+  return L" (" + SayWide(stmon::Phrase::InUse, language) + L")";
+}
 
 // An edit control breaks lines at both characters only.
 std::wstring WithCrLf(const std::wstring& text) {
@@ -42,16 +50,16 @@ std::vector<std::wstring> OtherConditions(const stmon::Snapshot& snapshot) {
 
 TrayLine LineOf(const stmon::Tray& tray, bool in_use, const stmon::Language& language) {
   TrayLine line;
-  line.name = TrayName(tray.id, language);
-  if (in_use) line.name += kInUse;
-  line.paper = PaperName(tray.paper, language);
+  line.name = Wide(stmon::TrayLabel(tray.id, language));
+  if (in_use) line.name += InUse(language);
+  line.paper = Wide(stmon::PaperLabel(tray.paper, language));
   char name[32] = "";
   if (PatGetPaperBitmap_Ex(nullptr, tray.paper, name) == 1) line.paperBitmap = name;
   const bool holds_paper = tray.paper != PaperNone && tray.paper != PaperTrayMissing;
   // A tray that is out has no level, and an empty one none but 0, whatever the printer sends.
   if (tray.level && tray.paper != PaperTrayMissing) {
     const uint32_t level = holds_paper ? *tray.level : 0;
-    line.level = Wide(std::to_string(level) + (level <= kFullTray ? " %" : ""));
+    line.level = Wide(stmon::LevelLabel(tray.paper, tray.level, language));
     if (PatGetIconName(kPaperLevelIcon, level, name, sizeof name) == 1) line.levelIcon = name;
   }
   line.text = line.name + L", " + line.paper + (line.level.empty() ? L"" : L", ") + line.level;
@@ -63,24 +71,25 @@ std::vector<std::wstring> Equipment(const stmon::Snapshot& snapshot,
   std::vector<std::wstring> lines;
   if (snapshot.options) {
     for (const stmon::Option& option : *snapshot.options) {
-      if (option.code != 0) lines.push_back(OptionName(option.code, language));
+      if (option.code != 0) lines.push_back(Wide(stmon::OptionLabel(option.code, language)));
     }
   }
   for (const stmon::Bin& bin : snapshot.bins) {
-    lines.push_back(Wide(stmon::BinLabel(bin.id)));
-    if (snapshot.currentBin == bin.id) lines.back() += kInUse;
+    lines.push_back(
+        Wide(stmon::BinLabel(bin.id, language) + ", " + stmon::BinStateLabel(bin.state, language)));
+    if (snapshot.currentBin == bin.id) lines.back() += InUse(language);
   }
-  if (snapshot.language) lines.push_back(Wide(stmon::LanguageLabel(*snapshot.language)));
+  if (snapshot.language) lines.push_back(Wide(stmon::LanguageLabel(*snapshot.language, language)));
   if (!snapshot.versions.empty()) {
-    std::string versions = "Version";
+    std::string versions;
     for (const std::string& version : snapshot.versions)
-      versions += " " + stmon::EscapeBytes(version);
-    lines.push_back(Wide(versions));
+      versions += (versions.empty() ? "" : ", ") + stmon::EscapeBytes(version);
+    lines.push_back(SayWide(stmon::Phrase::VersionIs, language, {versions}));
   }
   return lines;
 }
 
-std::wstring ClockText(std::chrono::system_clock::time_point when) {
+std::string ClockText(std::chrono::system_clock::time_point when) {
   const auto seconds = std::chrono::duration_cast<std::chrono::seconds>(when.time_since_epoch());
   // FILETIME counts 100 ns from 1601.
   const uint64_t ticks = (static_cast<uint64_t>(seconds.count()) + 11644473600ull) * 10000000ull;
@@ -90,13 +99,13 @@ std::wstring ClockText(std::chrono::system_clock::time_point when) {
   if (FileTimeToSystemTime(&time, &universal) &&
       SystemTimeToTzSpecificLocalTime(nullptr, &universal, &local))
     GetTimeFormatW(LOCALE_USER_DEFAULT, 0, &local, nullptr, text, 64);
-  return text;
+  return stmon::Utf8(text);
 }
 
-std::wstring AgeText(std::chrono::system_clock::duration age, const stmon::Language& language) {
+std::string AgeText(std::chrono::system_clock::duration age, const stmon::Language& language) {
   const auto shown = std::max(age, std::chrono::system_clock::duration::zero());
-  return Wide(stmon::AgeText(std::chrono::duration_cast<std::chrono::steady_clock::duration>(shown),
-                             language));
+  return stmon::AgeText(std::chrono::duration_cast<std::chrono::steady_clock::duration>(shown),
+                        language);
 }
 
 // The first sentence tells what happened; the rest is advice for a command line.
@@ -134,10 +143,10 @@ void Translate(Knowledge& knowledge, const stmon::Language& language) {
   }
 }
 
-View MakeView(const Knowledge& knowledge) {
+View MakeView(const Knowledge& knowledge, const stmon::Language& language) {
   View view;
   if (!knowledge.latest) {
-    view.shortText = L"Connecting...";
+    view.shortText = SayWide(stmon::Phrase::Connecting, language);
     view.icon = "ICO_WARMUP";
     return view;
   }
@@ -148,28 +157,24 @@ View MakeView(const Knowledge& knowledge) {
   view.others = OtherConditions(latest);
   if (!knowledge.lastGood) return view;
   const stmon::Snapshot& good = *knowledge.lastGood;
-  const stmon::Language& language = *good.source.language;
   for (const stmon::Tray& tray : good.trays)
     view.trays.push_back(LineOf(tray, good.currentTray == tray.id, language));
   view.equipment = Equipment(good, language);
   return view;
 }
 
-std::wstring ConnectionText(const Knowledge& knowledge, std::chrono::system_clock::time_point now) {
-  if (!knowledge.latest) return Wide("Asking " + stmon::CleanUtf8(knowledge.source) + "...");
-  const std::wstring source = Wide(stmon::CleanUtf8(knowledge.source));
+std::wstring ConnectionText(const Knowledge& knowledge, std::chrono::system_clock::time_point now,
+                            const stmon::Language& language) {
+  using stmon::Phrase;
+  const std::string source = stmon::CleanUtf8(knowledge.source);
+  if (!knowledge.latest) return SayWide(Phrase::Asking, language, {source});
   const stmon::Snapshot& latest = *knowledge.latest;
   if (latest.told && latest.trouble.empty())
-    return source + L" answered at " + ClockText(latest.when) + L".";
-  std::wstring text =
-      source + L": " + Wide(stmon::CleanUtf8(FirstSentence(latest.trouble))) + L"\n";
-  if (knowledge.lastGood) {
-    const auto when = knowledge.lastGood->when;
-    return text + L"Last answer at " + ClockText(when) + L", " + AgeText(now - when) +
-           L" ago: trays and equipment are of that time.";
-  }
-  return text + L"No answer since " + ClockText(knowledge.since) + L", " +
-         AgeText(now - knowledge.since) + L" ago.";
+    return SayWide(Phrase::AnsweredAt, language, {source, ClockText(latest.when)});
+  const auto when = knowledge.lastGood ? knowledge.lastGood->when : knowledge.since;
+  const auto since = knowledge.lastGood ? Phrase::LastAnswerAt : Phrase::NoAnswerSince;
+  return Wide(source + ": " + stmon::CleanUtf8(FirstSentence(latest.trouble)) + "\n") +
+         SayWide(since, language, {ClockText(when), AgeText(now - when, language)});
 }
 
 }  // namespace stmonw

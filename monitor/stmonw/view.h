@@ -8,7 +8,6 @@
 #include <vector>
 
 #include "snapshot/snapshot.h"
-#include "stmonw/names.h"
 
 namespace stmonw {
 
@@ -44,14 +43,15 @@ struct View {
   std::vector<std::wstring> equipment;
 };
 
-// In the language that the snapshots were taken in.
-View MakeView(const Knowledge& knowledge);
+// In the language that the snapshots were taken in, if there are any.
+View MakeView(const Knowledge& knowledge, const stmon::Language& language);
 
 // A shallow copy of the record that decides picture and texts: the last good one, marked when the
 // printer has ceased to answer. Lives no longer than `knowledge` stays as it is.
 PrnInfoEx ShownRecord(const Knowledge& knowledge);
 
 // "Answered at 14:03:22." or what is the trouble and how old the data are.
-std::wstring ConnectionText(const Knowledge& knowledge, std::chrono::system_clock::time_point now);
+std::wstring ConnectionText(const Knowledge& knowledge, std::chrono::system_clock::time_point now,
+                            const stmon::Language& language);
 
 }  // namespace stmonw

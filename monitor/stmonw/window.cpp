@@ -4,7 +4,6 @@
 
 #include <algorithm>
 #include <cstring>
-#include <cwchar>
 
 #include "simulator/simulated_printer.h"
 #include "stmonw/item_drawing.h"
@@ -14,6 +13,7 @@
 #include "stmonw/view.h"
 #include "system/wide_text.h"
 #include "wire/full_query.h"
+#include "words/phrases.h"
 #include "words/safe_text.h"
 
 namespace stmonw {
@@ -25,7 +25,6 @@ using stmon::Wide;
 constexpr UINT kAnswerMessage = WM_APP;
 constexpr UINT_PTR kAgeTimer = 1;
 constexpr UINT kAgePeriod = 1000;  // ms
-constexpr const wchar_t* kSimulatedPrefix = L"Simulated printer: ";
 
 using Printer = decltype(stmon::StartPrinter({}, 0, std::declval<std::string&>()));
 
@@ -36,6 +35,7 @@ struct Window {
   Settings settings;
 
   Printer printer{nullptr, nullptr};  // the simulated one, when it is asked
+  std::string scenario;               // which it plays
   std::shared_ptr<Poller> poller;
   std::string query;
   std::wstring asked;  // what the printer field said when polling began
@@ -50,6 +50,18 @@ struct Window {
   HFONT headlineFont = nullptr;
 };
 
+std::string Say(const Window& window, stmon::Phrase phrase) {
+  return stmon::Say(phrase, *window.settings.language);
+}
+
+bool IsJapanese(const stmon::Language& language) {
+  return language.id == 1041;
+}
+
+std::wstring SimulatedPrefix(const stmon::Language& language) {
+  return Wide(stmon::Say(stmon::Phrase::SimulatedPrinter, language) + ": ");
+}
+
 HWND Item(const Window& window, int id) {
   return GetDlgItem(window.dialog, id);
 }
@@ -61,7 +73,24 @@ std::wstring ItemText(const Window& window, int id) {
   return text;
 }
 
-// ---- Fonts and places -------------------------------------------------------------------------
+// ---- Fonts, labels and places -----------------------------------------------------------------
+
+struct Label {
+  int id;
+  stmon::Phrase phrase;
+};
+
+constexpr Label kLabels[] = {
+    {IDC_PRINTER_LABEL, stmon::Phrase::PrinterField},
+    {IDOK, stmon::Phrase::PollNow},
+    {IDC_INTERVAL_LABEL, stmon::Phrase::Every},
+    {IDC_SECONDS_LABEL, stmon::Phrase::EverySeconds},
+    {IDC_LANGUAGE_LABEL, stmon::Phrase::LanguageField},
+    {IDC_OTHERS_LABEL, stmon::Phrase::OthersList},
+    {IDC_TRAYS_LABEL, stmon::Phrase::TraysList},
+    {IDC_EQUIPMENT_LABEL, stmon::Phrase::EquipmentList},
+    {IDCANCEL, stmon::Phrase::Close},
+};
 
 // Asking for the character set makes the system choose a font that has the language's letters, also
 // where the dialog's own has none and no substitute is set up.
@@ -80,8 +109,12 @@ void MakeFonts(Window& window) {
   font.lfHeight = MulDiv(font.lfHeight, 5, 4);
   font.lfWeight = FW_BOLD;
   window.headlineFont = CreateFontIndirectW(&font);
-  for (const int id : {IDC_LANGUAGE, IDC_DETAIL, IDC_OTHERS, IDC_TRAYS, IDC_EQUIPMENT})
+  for (const int id : {IDC_PRINTER, IDC_LANGUAGE, IDC_DETAIL, IDC_OTHERS, IDC_TRAYS, IDC_EQUIPMENT})
     SendMessageW(Item(window, id), WM_SETFONT, reinterpret_cast<WPARAM>(window.textFont), TRUE);
+  for (const Label& label : kLabels) {
+    SendMessageW(Item(window, label.id), WM_SETFONT, reinterpret_cast<WPARAM>(window.textFont),
+                 TRUE);
+  }
 }
 
 RECT PlaceOf(const Window& window, int id) {
@@ -93,6 +126,49 @@ RECT PlaceOf(const Window& window, int id) {
 
 void Place(const Window& window, int id, int left, int top, int width, int height) {
   SetWindowPos(Item(window, id), nullptr, left, top, width, height, SWP_NOZORDER | SWP_NOACTIVATE);
+}
+
+int TextWidth(const Window& window, int id) {
+  HDC dc = GetDC(window.dialog);
+  HGDIOBJ before = SelectObject(dc, window.textFont);
+  RECT area{};
+  DrawTextW(dc, ItemText(window, id).c_str(), -1, &area, DT_SINGLELINE | DT_CALCRECT);
+  SelectObject(dc, before);
+  ReleaseDC(window.dialog, dc);
+  return static_cast<int>(area.right);
+}
+
+// The controls of the uppermost line, from the right: those with a text take what it needs, and the
+// printer's field what is left.
+void FitTopLine(const Window& window) {
+  const int gap = Scaled(5);
+  const auto put = [&](int id, int right, int width) {
+    const RECT place = PlaceOf(window, id);
+    Place(window, id, right - width, place.top, width, place.bottom - place.top);
+    return right - width - gap;
+  };
+  const auto width = [&](int id) {
+    const RECT place = PlaceOf(window, id);
+    return static_cast<int>(place.right - place.left);
+  };
+  int right = static_cast<int>(PlaceOf(window, IDC_LANGUAGE).right);
+  right = put(IDC_LANGUAGE, right, width(IDC_LANGUAGE));
+  right = put(IDC_LANGUAGE_LABEL, right, TextWidth(window, IDC_LANGUAGE_LABEL)) - gap;
+  right = put(IDC_SECONDS_LABEL, right, TextWidth(window, IDC_SECONDS_LABEL));
+  right = put(IDC_INTERVAL_SPIN, right, width(IDC_INTERVAL_SPIN)) + gap;
+  right = put(IDC_INTERVAL, right, width(IDC_INTERVAL));
+  right = put(IDC_INTERVAL_LABEL, right, TextWidth(window, IDC_INTERVAL_LABEL)) - gap;
+  right = put(IDOK, right, TextWidth(window, IDOK) + 4 * gap);
+  const int left = static_cast<int>(PlaceOf(window, IDC_PRINTER_LABEL).left);
+  const int label = TextWidth(window, IDC_PRINTER_LABEL);
+  put(IDC_PRINTER_LABEL, left + label, label);
+  put(IDC_PRINTER, right, right - left - label - gap);
+}
+
+void ShowLabels(const Window& window) {
+  for (const Label& label : kLabels)
+    SetWindowTextW(Item(window, label.id), Wide(Say(window, label.phrase)).c_str());
+  FitTopLine(window);
 }
 
 // Dialog units follow the font, the picture follows the screen's dots per inch: it takes the size
@@ -141,7 +217,8 @@ void FillList(const Window& window, int id, const std::vector<std::wstring>& lin
 }
 
 void ShowConnection(Window& window) {
-  window.connection = ConnectionText(window.knowledge, std::chrono::system_clock::now());
+  window.connection =
+      ConnectionText(window.knowledge, std::chrono::system_clock::now(), *window.settings.language);
   SetText(window, IDC_CONNECTION, window.connection);
 }
 
@@ -156,7 +233,7 @@ void ShowPicture(Window& window) {
 
 // Only what has changed is touched.
 void Show(Window& window) {
-  View view = MakeView(window.knowledge);
+  View view = MakeView(window.knowledge, *window.settings.language);
   std::swap(view, window.view);
   const View& now = window.view;
   SetText(window, IDC_SHORT, now.shortText);
@@ -196,6 +273,10 @@ void BeginPolling(Window& window, const stmon::Target& target, std::string sourc
   Show(window);
 }
 
+std::string SimulatedSource(const Window& window) {
+  return Say(window, stmon::Phrase::SimulatedPrinter) + " (" + window.scenario + ")";
+}
+
 bool AskSimulated(Window& window, const std::string& name) {
   stmon::Scenario scenario;
   std::string trouble = stmon::LoadScenario(name, scenario);
@@ -209,7 +290,8 @@ bool AskSimulated(Window& window, const std::string& name) {
     return false;
   }
   const stmon::Target target{"127.0.0.1", stmon::PrinterPort(*printer)};
-  BeginPolling(window, target, "Simulated printer (" + name + ")");
+  window.scenario = name;
+  BeginPolling(window, target, SimulatedSource(window));
   window.printer = std::move(printer);
   return true;
 }
@@ -217,9 +299,8 @@ bool AskSimulated(Window& window, const std::string& name) {
 bool AskHost(Window& window, const std::string& text) {
   stmon::Target target;
   if (!stmon::ParseTarget(text, target)) {
-    Complain(window.dialog, "'" + stmon::CleanUtf8(text) +
-                                "' is not a printer's address; HOST, HOST:PORT or [IPV6]:PORT "
-                                "are.");
+    Complain(window.dialog,
+             stmon::Say(stmon::Phrase::WrongAddress, *window.settings.language, {text}));
     return false;
   }
   BeginPolling(window, target, stmon::TargetText(target));
@@ -237,11 +318,12 @@ void Ask(Window& window) {
     PollNow(*window.poller);
     return;
   }
-  const size_t prefix = std::wcslen(kSimulatedPrefix);
-  const bool simulated = text.empty() || text.starts_with(kSimulatedPrefix);
-  const bool asked = simulated ? AskSimulated(window, text.empty() ? window.settings.scenario
-                                                                   : Utf8(text.substr(prefix)))
-                               : AskHost(window, Utf8(text));
+  const std::wstring prefix = SimulatedPrefix(*window.settings.language);
+  const bool simulated = text.empty() || text.starts_with(prefix);
+  const bool asked = simulated
+                         ? AskSimulated(window, text.empty() ? window.settings.scenario
+                                                             : Utf8(text.substr(prefix.size())))
+                         : AskHost(window, Utf8(text));
   if (asked) window.asked = text;
 }
 
@@ -258,16 +340,37 @@ void TakeAnswers(Window& window) {
 
 // ---- Messages ---------------------------------------------------------------------------------
 
-void FillChoices(const Window& window) {
+void FillScenarios(const Window& window) {
   HWND printers = Item(window, IDC_PRINTER);
+  SendMessageW(printers, CB_RESETCONTENT, 0, 0);
   for (const stmon::NamedScenario* row = stmon::kNamedScenarios; row->name; ++row) {
-    const std::wstring line = kSimulatedPrefix + Wide(row->name);
+    const std::wstring line = SimulatedPrefix(*window.settings.language) + Wide(row->name);
     SendMessageW(printers, CB_ADDSTRING, 0, reinterpret_cast<LPARAM>(line.c_str()));
   }
+}
+
+// What the printer's field says of a simulated printer, in the language chosen now.
+void RenameSimulated(Window& window, const stmon::Language& before) {
+  const auto renamed = [&](const std::wstring& text) {
+    const std::wstring prefix = SimulatedPrefix(before);
+    if (!text.starts_with(prefix)) return text;
+    return SimulatedPrefix(*window.settings.language) + text.substr(prefix.size());
+  };
+  const std::wstring text = renamed(ItemText(window, IDC_PRINTER));
+  FillScenarios(window);
+  SetWindowTextW(Item(window, IDC_PRINTER), text.c_str());
+  window.asked = renamed(window.asked);
+  if (window.printer) window.knowledge.source = SimulatedSource(window);
+}
+
+void FillChoices(const Window& window) {
+  HWND printers = Item(window, IDC_PRINTER);
+  FillScenarios(window);
   SendMessageW(printers, CB_SETDROPPEDWIDTH, static_cast<WPARAM>(Scaled(260)), 0);
   const Settings& settings = window.settings;
-  SetWindowTextW(printers, (settings.printer.empty() ? kSimulatedPrefix + Wide(settings.scenario)
-                                                     : Wide(settings.printer))
+  SetWindowTextW(printers, (settings.printer.empty()
+                                ? SimulatedPrefix(*settings.language) + Wide(settings.scenario)
+                                : Wide(settings.printer))
                                .c_str());
   HWND languages = Item(window, IDC_LANGUAGE);
   for (const stmon::Language& row : stmon::kLanguages) {
@@ -288,6 +391,7 @@ void OnInit(Window& window) {
   window.query = stmon::BuildQuery();
   FillChoices(window);
   MakeFonts(window);
+  ShowLabels(window);
   FitPicture(window);
   SendMessageW(Item(window, IDC_DETAIL), EM_SETMARGINS, EC_LEFTMARGIN | EC_RIGHTMARGIN, 0);
   SendMessageW(Item(window, IDC_TRAYS), LB_SETITEMHEIGHT, 0, Scaled(34));
@@ -298,8 +402,11 @@ void OnInit(Window& window) {
 void OnLanguage(Window& window) {
   const LRESULT row = SendMessageW(Item(window, IDC_LANGUAGE), CB_GETCURSEL, 0, 0);
   if (row == CB_ERR) return;
+  const stmon::Language& before = *window.settings.language;
   window.settings.language = &stmon::kLanguages[row];
   MakeFonts(window);
+  ShowLabels(window);
+  RenameSimulated(window, before);
   Translate(window.knowledge, *window.settings.language);
   Show(window);
   InvalidateRect(Item(window, IDC_SHORT), nullptr, FALSE);  // another font, perhaps the same text
@@ -353,8 +460,7 @@ void OnDrawItem(const Window& window, const DRAWITEMSTRUCT& item) {
       DrawTextItem(item, window.view.shortText, window.headlineFont);
       break;
     case IDC_CONNECTION:
-      DrawTextItem(item, window.connection,
-                   reinterpret_cast<HFONT>(SendMessageW(window.dialog, WM_GETFONT, 0, 0)));
+      DrawTextItem(item, window.connection, window.textFont);
       break;
     case IDC_OTHERS:
       if (item.itemID < window.view.others.size())
@@ -442,7 +548,8 @@ bool RunWindow(HINSTANCE instance, int show, const Settings& settings) {
 }
 
 void Complain(HWND owner, const std::string& message) {
-  MessageBoxW(owner, Wide(stmon::CleanUtf8(message)).c_str(), L"Printer monitor",
+  MessageBoxW(owner, Wide(stmon::CleanUtf8(message)).c_str(),
+              Wide(stmon::Say(stmon::Phrase::WindowTitle, stmon::UserLanguage())).c_str(),
               MB_OK | MB_ICONWARNING);
 }
 

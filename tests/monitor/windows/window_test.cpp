@@ -135,9 +135,9 @@ TEST_CASE("the window tells a printer's state, its absence and its return" * kSk
   REQUIRE(Lines(program, IDC_OTHERS) == 1);
   CHECK(Line(program, IDC_OTHERS, 0).find(L"Resttoner") != std::wstring::npos);
   REQUIRE(Lines(program, IDC_TRAYS) == 2);
-  CHECK(Line(program, IDC_TRAYS, 0) == L"Tray 1 (in use), A4, 75 %");
-  CHECK(Line(program, IDC_TRAYS, 1) == L"Tray 2, Kein Papier, 0 %");
-  CHECK(Line(program, IDC_EQUIPMENT, 0) == L"Stapler");
+  CHECK(Line(program, IDC_TRAYS, 0) == L"Papierfach 1 (aktiv), A4, 75 %");
+  CHECK(Line(program, IDC_TRAYS, 1) == L"Papierfach 2, kein Papier, 0 %");
+  CHECK(Line(program, IDC_EQUIPMENT, 0) == L"Hefter");
   CHECK(WaitFor([&] { return DrawnPixels(program) > 20; }));
 
   ChooseLanguage(program, L"\u65E5\u672C\u8A9E (JP)");
