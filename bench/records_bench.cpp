@@ -9,12 +9,10 @@
 namespace {
 
 constexpr std::string_view kReply =
-    "\x1BS\r4,81\r0\r1\r1\n\x1BT\rT\r6\r1\r6\r2\r22\r3\r-1\n\x1BZ\rT\r50\r1\r100\r2\r75\r3\r0\n"
-    "\x1BL\r1\r0\r2\r1\n\x1BV\rSYS\r1.01\rNPS\r2.00\rNWC\r3.1415\n\x1BM\r64\n\x1B"
-    "E\rNDL\n\x1B"
-    "F\rCHUMINCYO\rMINCYO-BOLD\rGOTHIC\rGOTHIC-MEDIUM\rMARUGOTHIC\rKAISHO\n\x1B"
-    "D\rD:1\rO:\x03\rF:\x03\rT:\x03\n\x1B"
-    "A\r1\n\x1B ";
+    "\033S\r4,81\r0\r1\r1\n\033T\rT\r6\r1\r6\r2\r22\r3\r-1\n\033Z\rT\r50\r1\r100\r2\r75\r3\r0\n"
+    "\033L\r1\r0\r2\r1\n\033V\rSYS\r1.01\rNPS\r2.00\rNWC\r3."
+    "1415\n\033M\r64\n\033E\rNDL\n\033F\rCHUMINCYO\rMINCYO-BOLD\rGOTHIC\rGOTHIC-"
+    "MEDIUM\rMARUGOTHIC\rKAISHO\n\033D\rD:1\rO:\x03\rF:\x03\rT:\x03\n\033A\r1\n\033 ";
 constexpr std::string_view kDeviceId =
     "MFG:ORLEX;CMD:NDL,NPS,N98,N16,NGL,GL2,NTF,NWC;MDL:ZENTA C210;CLS:PRINTER;DES:ZENTA C210;";
 

@@ -39,8 +39,8 @@ std::string TypicalReply(std::string_view status) {
   return std::string(kReplyHead)
       .append(status)
       .append(
-          "\r0\r1\r1\n\x1BT\rT\r6\r1\r6\r2\r22\n\x1BZ\rT\r50\r1\r100\r2\r75\n\x1BL\r1\r0\r2\r1\n"
-          "\x1B ");
+          "\r0\r1\r1\n\033T\rT\r6\r1\r6\r2\r22\n\033Z\rT\r50\r1\r100\r2\r75\n\033L\r1\r0\r2\r1\n"
+          "\033 ");
 }
 
 // As many statuses as a reply can tell: its field of codes has 64 characters.
@@ -279,16 +279,16 @@ void BenchLongLists() {
   std::printf("\n");
 
   GrowthRow("reply, statuses", kMostInField, [](uint32_t count) {
-    return ParseAgain<PrnInfoEx>(Entries("\x1BS\r", "9,", count - 1, "9\r0\r1\r1\n\x1B "));
+    return ParseAgain<PrnInfoEx>(Entries("\033S\r", "9,", count - 1, "9\r0\r1\r1\n\033 "));
   });
   GrowthRow("reply, statuses, flat record", kMostInField, [](uint32_t count) {
-    return ParseAgain<PrnInfo>(Entries("\x1BS\r", "9,", count - 1, "9\r0\r1\r1\n\x1B "));
+    return ParseAgain<PrnInfo>(Entries("\033S\r", "9,", count - 1, "9\r0\r1\r1\n\033 "));
   });
   GrowthRow("reply, trays", kMostInBlock, [](uint32_t count) {
-    return ParseAgain<PrnInfoEx>(Entries("\x1BT\r", "1\r6\r", count, "\n\x1B "));
+    return ParseAgain<PrnInfoEx>(Entries("\033T\r", "1\r6\r", count, "\n\033 "));
   });
   GrowthRow("reply, bins", kMostInBlock, [](uint32_t count) {
-    return ParseAgain<PrnInfoEx>(Entries("\x1BL\r", "1\r0\r", count, "\n\x1B "));
+    return ParseAgain<PrnInfoEx>(Entries("\033L\r", "1\r0\r", count, "\n\033 "));
   });
   const auto convert = [](uint32_t group) {
     return [group](uint32_t count) {

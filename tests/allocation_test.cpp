@@ -14,25 +14,25 @@ struct Work {
 };
 
 constexpr std::string_view kFirstReply =
-    "\x1BS\r4\r0\r1\n\x1BT\r1\r5\n\x1BL\r1\r0\n\x1BV\rA\r1\rB\r2\n\x1B\x46\rGOTHIC\n\x1B\x44\rO: "
+    "\033S\r4\r0\r1\n\033T\r1\r5\n\033L\r1\r0\n\033V\rA\r1\rB\r2\n\033\x46\rGOTHIC\n\033\x44\rO: "
     "\n";
 constexpr std::string_view kReply =
-    "\x1BS\r4,5,"
-    "25\r0\r1\r1\n\x1BT\r1\r5\r2\r6\n\x1BL\r1\r0\r2\r1\n\x1BV\rA\r1\rB\r2\rC\r3\n\x1BM\r7\n"
-    "\x1B\x46\rGOTHIC\rKAISHO\n\x1B\x44\rF:3\rO:\x03\rD:1\n\x1B\x41\r1\n\x1B\x43\r1\n";
+    "\033S\r4,5,"
+    "25\r0\r1\r1\n\033T\r1\r5\r2\r6\n\033L\r1\r0\r2\r1\n\033V\rA\r1\rB\r2\rC\r3\n\033M\r7\n"
+    "\033\x46\rGOTHIC\rKAISHO\n\033\x44\rF:3\rO:\x03\rD:1\n\033\x41\r1\n\033\x43\r1\n";
 // More nodes than a flat record's temporary one has room for, and lists told twice.
 const std::string kLongReply =
-    "\x1BS\r4,5,25,26,28,36,37\r0\r1\r1\n\x1B\x46\rGOTHIC\rKAISHO\n\x1B\x46\rKAISHO\n"
-    "\x1B\x44\rF:3\rO:\x03\n\x1B\x44\rD:1\n\x1BS\r4,5,25\r0\r1\r1\n\x1B\x41\r1\n"
-    "\x1BL" +
+    "\033S\r4,5,25,26,28,36,37\r0\r1\r1\n\033\x46\rGOTHIC\rKAISHO\n\033\x46\rKAISHO\n"
+    "\033\x44\rF:3\rO:\x03\n\033\x44\rD:1\n\033S\r4,5,25\r0\r1\r1\n\033\x41\r1\n"
+    "\033L" +
     [] {
       std::string bins;
       for (int bin = 0; bin < 60; ++bin)
         bins += "\r1\r0";
       return bins + '\n';
     }() +
-    "\x1BT\r1\r5\r2\r6\n\x1BV\rA\r1\rB\r2\n\x1B\x46\rGOTHIC\rMARUGOTHIC\rKAISHO\n"
-    "\x1B\x44\rT:\xFF\n";
+    "\033T\r1\r5\r2\r6\n\033V\rA\r1\rB\r2\n\033\x46\rGOTHIC\rMARUGOTHIC\rKAISHO\n"
+    "\033\x44\rT:\xFF\n";
 constexpr std::string_view kFirstDeviceId = "MFG:A;CMD:NDL;MDL:B;DES:C;";
 constexpr std::string_view kDeviceId = "MFG:ORLEX;CMD:NDL,NPS;MDL:ZENTA C210;DES:ZENTA C210;";
 

@@ -13,66 +13,66 @@ struct FlatCase {
 };
 
 const FlatCase kReplies[] = {
-    {"one status stands in the code alone", "\x1BS\r4\r1\r2\r3\n",
+    {"one status stands in the code alone", "\033S\r4\r1\r2\r3\n",
      [](PrnInfo& to) {
        to.statusCode = 4, to.statusCount = 1;
        to.online = to.hasError = to.printing = 0, to.offline = 1;
        to.currentTray = 4, to.currentBin = 3;
      }},
-    {"several statuses stand in the list", "\x1BS\r4,5,25\r0\r2\n",
+    {"several statuses stand in the list", "\033S\r4,5,25\r0\r2\n",
      [](PrnInfo& to) {
        to.statusCode = 34u << 16 | 107, to.statusCount = 3;
        to.statusList[0] = 4, to.statusList[1] = 5, to.statusList[2] = 25;
        to.online = to.hasError = 1, to.printing = 0, to.offline = 0;
        to.currentTray = 4, to.currentBin = 0;
      }},
-    {"the sum keeps 16 bits", "\x1BS\r65535,9\r0\r2\n",
+    {"the sum keeps 16 bits", "\033S\r65535,9\r0\r2\n",
      [](PrnInfo& to) {
        to.statusCode = 8u << 16 | 107, to.statusCount = 2;
        to.statusList[0] = 65535, to.statusList[1] = 9;
        to.online = to.hasError = 1, to.printing = 0, to.offline = 0;
        to.currentTray = 4, to.currentBin = 0;
      }},
-    {"no status leaves the code", "\x1BS\n",
+    {"no status leaves the code", "\033S\n",
      [](PrnInfo& to) {
        to.statusCount = 0;
        to.online = 1, to.hasError = to.printing = 0, to.offline = 0;
        to.currentTray = to.currentBin = 0;
      }},
-    {"model information", "\x1BV\rA\r1.01\rB\r123456\rC\r3\n\x1BM\r64\n",
+    {"model information", "\033V\rA\r1.01\rB\r123456\rC\r3\n\033M\r64\n",
      [](PrnInfo& to) {
        to.modelInfoNumber = 64;
        std::strcpy(to.versionText1, "1.01"), std::strcpy(to.versionText2, "123456");
        std::strcpy(to.versionText3, "3");
      }},
-    {"language and fonts", "\x1B\x45\rNWC\n\x1B\x46\rKAISHO\rGOTHIC\n",
+    {"language and fonts", "\033\x45\rNWC\n\033\x46\rKAISHO\rGOTHIC\n",
      [](PrnInfo& to) {
        to.emulationCode = 14;
        to.fontCount = 2, to.fontList[0] = 19, to.fontList[1] = 13;
      }},
-    {"no fonts change nothing", "\x1B\x46\rSERIF\n", [](PrnInfo&) {}},
-    {"trays and bins", "\x1BT\rT\r6\r1\r-1\n\x1BZ\rT\r50\r1\r0\n\x1BL\r2\r9\n",
+    {"no fonts change nothing", "\033\x46\rSERIF\n", [](PrnInfo&) {}},
+    {"trays and bins", "\033T\rT\r6\r1\r-1\n\033Z\rT\r50\r1\r0\n\033L\r2\r9\n",
      [](PrnInfo& to) {
        to.trayCount = to.trayLevelCount = 2, to.binCount = 1;
        to.trayList[0] = {1, 8}, to.trayList[1] = {3, 1};
        to.trayLevelList[0] = {1, 50}, to.trayLevelList[1] = {3, 0};
        to.binList[0] = {2, 9};
      }},
-    {"no trays change nothing", "\x1BT\r\n", [](PrnInfo&) {}},
-    {"the duplex unit alone changes nothing", "\x1B\x43\r1\n", [](PrnInfo&) {}},
-    {"the duplex unit beside an option", "\x1B\x41\r1\n\x1B\x43\r1\n",
+    {"no trays change nothing", "\033T\r\n", [](PrnInfo&) {}},
+    {"the duplex unit alone changes nothing", "\033\x43\r1\n", [](PrnInfo&) {}},
+    {"the duplex unit beside an option", "\033\x41\r1\n\033\x43\r1\n",
      [](PrnInfo& to) {
        to.hasDuplex = to.duplexFlag = to.option4Present = to.option4Flag = 1;
        to.option2Flag = to.option3Flag = to.optionBits1 = to.optionBits2 = to.finisherBits = 0;
      }},
-    {"options by their bits", "\x1B\x44\rO:\x1F\rB:\x07\rF:\x02\rH:1\n",
+    {"options by their bits", "\033\x44\rO:\x1F\rB:\x07\rF:\x02\rH:1\n",
      [](PrnInfo& to) {
        to.option5Present = to.option6Present = 1, to.optionBits1 = 0xF, to.optionBits2 = 0x7;
        to.finisherBits = 0x2, to.option2Flag = 1;
        to.duplexFlag = to.option3Flag = to.option4Flag = 0;
      }},
-    {"no options change nothing", "\x1B\x44\r\n", [](PrnInfo&) {}},
-    {"a block that is cut off changes nothing", "\x1BL\r2\r9", [](PrnInfo&) {}},
+    {"no options change nothing", "\033\x44\r\n", [](PrnInfo&) {}},
+    {"a block that is cut off changes nothing", "\033L\r2\r9", [](PrnInfo&) {}},
 };
 
 const FlatCase kDeviceIds[] = {
@@ -172,13 +172,13 @@ TEST_CASE("arrays take what fits, their counts tell what was reported") {
     uint32_t capacity;
     size_t entrySize;
   } const rows[] = {
-      {"statuses", "\x1BS\r", "9,", 31, &PrnInfo::statusCount, offsetof(PrnInfo, statusCount), 32,
+      {"statuses", "\033S\r", "9,", 31, &PrnInfo::statusCount, offsetof(PrnInfo, statusCount), 32,
        4},
-      {"trays", "\x1BT\r", "T\r6\r", 62, &PrnInfo::trayCount, offsetof(PrnInfo, trayCount), 64, 8},
-      {"levels", "\x1BZ\r", "T\r6\r", 62, &PrnInfo::trayLevelCount,
+      {"trays", "\033T\r", "T\r6\r", 62, &PrnInfo::trayCount, offsetof(PrnInfo, trayCount), 64, 8},
+      {"levels", "\033Z\r", "T\r6\r", 62, &PrnInfo::trayLevelCount,
        offsetof(PrnInfo, trayLevelCount), 16, 8},
-      {"bins", "\x1BL\r", "1\r6\r", 62, &PrnInfo::binCount, offsetof(PrnInfo, binCount), 16, 8},
-      {"fonts", "\x1B\x46\r", "GOTHIC\r", 35, &PrnInfo::fontCount, offsetof(PrnInfo, fontCount), 32,
+      {"bins", "\033L\r", "1\r6\r", 62, &PrnInfo::binCount, offsetof(PrnInfo, binCount), 16, 8},
+      {"fonts", "\033\x46\r", "GOTHIC\r", 35, &PrnInfo::fontCount, offsetof(PrnInfo, fontCount), 32,
        4},
   };
   for (const auto& row : rows) {
@@ -202,13 +202,13 @@ TEST_CASE("arrays take what fits, their counts tell what was reported") {
 TEST_CASE("a flat record is left alone by a call that fails") {
   PrnInfo record = Poisoned();
   const PrnInfo before = Poisoned();
-  CHECK(SetPrnInfoFromReadbackCmd(&record, "x\x1BM\r1\n", 6) == 0);
+  CHECK(SetPrnInfoFromReadbackCmd(&record, "x\033M\r1\n", 6) == 0);
   CHECK(SetPrnInfoFromReadbackCmd(&record, "M\r1\n", 0) == 0);
   CHECK(SetPrnInfoFromReadbackCmd(&record, "", 0) == 0);
   CHECK(SetPrnInfoFromReadbackCmd(&record, nullptr, 6) == 0);
-  CHECK(SetPrnInfoFromReadbackCmd(&record, "\x1BM\r1\n", INT32_MIN) == 1);
+  CHECK(SetPrnInfoFromReadbackCmd(&record, "\033M\r1\n", INT32_MIN) == 1);
   CHECK(Difference(record, before) == sizeof record);
-  CHECK(SetPrnInfoFromReadbackCmd(nullptr, "\x1BM\r1\n", 5) == 0);
+  CHECK(SetPrnInfoFromReadbackCmd(nullptr, "\033M\r1\n", 5) == 0);
   CHECK(SetModelInfoFromDeviceID(nullptr, "MFG:A;", 6) == 0);
 }
 
@@ -224,8 +224,8 @@ TEST_CASE("a missing Device ID counts as an empty one") {
 
 TEST_CASE("options are not taken back from the fields that say so") {
   PrnInfo record{};
-  const auto reply = "\x1B\x41\r1\n\x1B\x43\r1\n"s;
-  const auto none = "\x1B\x44\rH:1\n"s;
+  const auto reply = "\033\x41\r1\n\033\x43\r1\n"s;
+  const auto none = "\033\x44\rH:1\n"s;
   SetPrnInfoFromReadbackCmd(&record, reply.data(), static_cast<int32_t>(reply.size()));
   SetPrnInfoFromReadbackCmd(&record, none.data(), static_cast<int32_t>(none.size()));
   CHECK(record.hasDuplex == 1);

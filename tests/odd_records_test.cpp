@@ -12,12 +12,8 @@ using test::PrintManager;
 
 // A reply with a block for each list.
 const char kReply[] =
-    "\x1BS\r17,69\r0\r1\r1\n\x1BT\r1\r5\r2\r-1\r3\r5\n\x1BZ\r1\r0\r2\r50\n\x1BL\r1\r0\r2\r1\n"
-    "\x1BV\rA\r1\rB\r2\rC\r3\n\x1B"
-    "F\rKAISHO\rGOTHIC\n\x1B"
-    "A\r1\n\x1B"
-    "C\r1\n\x1B"
-    "D\rF:\x03\rD:1\rA:1\n";
+    "\033S\r17,69\r0\r1\r1\n\033T\r1\r5\r2\r-1\r3\r5\n\033Z\r1\r0\r2\r50\n\033L\r1\r0\r2\r1\n"
+    "\033V\rA\r1\rB\r2\rC\r3\n\033F\rKAISHO\rGOTHIC\n\033A\r1\n\033C\r1\n\033D\rF:\x03\rD:1\rA:1\n";
 
 // Every list leads from its third node back to its second. Who releases a node of such a chain
 // releases it too early: the record does it itself.

@@ -496,7 +496,7 @@ void TellOpenCover(PrintManager& manager) {
 }
 
 constexpr std::string_view kOpenCover =
-    "\x1BS\r4,36\r0\r1\r1\n\x1BT\r1\r6\r2\r2\n\x1BZ\r1\r50\r2\r10\n\x1B\x43\r1\n\x1B ";
+    "\033S\r4,36\r0\r1\r1\n\033T\r1\r6\r2\r2\n\033Z\r1\r50\r2\r10\n\033\x43\r1\n\033 ";
 
 }  // namespace
 

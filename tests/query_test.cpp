@@ -11,26 +11,18 @@ struct QueryCase {
   std::string expected;
 };
 
-const std::string kOptions =
-    "\x1B"
-    "A\n\x1B"
-    "B\n\x1B"
-    "C\n\x1B"
-    "D\n\x1BM\n";
+const std::string kOptions = "\033A\n\033B\n\033C\n\033D\n\033M\n";
 
 const QueryCase kQueries[] = {
-    {"no group", 0, "\x12\x14\x12\x1B "},
+    {"no group", 0, "\x12\x14\x12\033 "},
     {"groups without request bytes", GroupStatus | GroupStatusList | GroupDeviceId | 0x40000000,
-     "\x12\x14\x12\x1B "},
-    {"duplex asks for all options", GroupDuplex, "\x12\x14\x12" + kOptions + "\x1B "},
-    {"options", GroupOptions, "\x12\x14\x12" + kOptions + "\x1B "},
+     "\x12\x14\x12\033 "},
+    {"duplex asks for all options", GroupDuplex, "\x12\x14\x12" + kOptions + "\033 "},
+    {"options", GroupOptions, "\x12\x14\x12" + kOptions + "\033 "},
     {"duplex and options ask once", GroupDuplex | GroupOptions,
-     "\x12\x14\x12" + kOptions + "\x1B "},
+     "\x12\x14\x12" + kOptions + "\033 "},
     {"every group, in the printer's order", 0xFFFFFFFF,
-     "\x12\x14\x12\x1BV\n\x1BT\n\x1BZ\n\x1BH\n\x1BL\n" + kOptions +
-         "\x1B"
-         "E\n\x1B"
-         "F\n\x1B "},
+     "\x12\x14\x12\033V\n\033T\n\033Z\n\033H\n\033L\n" + kOptions + "\033E\n\033F\n\033 "},
 };
 
 }  // namespace

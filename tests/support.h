@@ -94,9 +94,9 @@ void ForEveryCut(std::string_view bytes, Visit visit) {
 // The part of a reply that its whole blocks make up, and those that are too long.
 inline std::string_view WholeBlocks(std::string_view reply) {
   size_t end = 0;
-  while (reply.size() - end > 1 && reply[end] == '\x1B') {
+  while (reply.size() - end > 1 && reply[end] == '\033') {
     const std::string_view rest = reply.substr(end);
-    const size_t marker = rest.find("\x1B ");
+    const size_t marker = rest.find("\033 ");
     const size_t line = rest.find('\n');
     const size_t most = rest[1] == 'S' ? 256 : 255;
     if (marker == 0) {

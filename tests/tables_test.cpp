@@ -131,24 +131,24 @@ void AddPaper(Lines& lines) {
 void AddPaperBlocks(Lines& lines) {
   for (int number = -1; number < 256; ++number) {
     const std::string digits = std::to_string(number);
-    lines.Add("T 1 " + digits + ": " + After("\x1BT\r1\r" + digits + "\n"));
-    lines.Add("L " + digits + ": " + After("\x1BL\r" + digits + "\r0\n"));
+    lines.Add("T 1 " + digits + ": " + After("\033T\r1\r" + digits + "\n"));
+    lines.Add("L " + digits + ": " + After("\033L\r" + digits + "\r0\n"));
   }
   for (int letter = ' '; letter < 127; ++letter)
     lines.Add("T "s + static_cast<char>(letter) + ": " +
-              After("\x1BT\r"s + static_cast<char>(letter) + "\r6\n"));
+              After("\033T\r"s + static_cast<char>(letter) + "\r6\n"));
 }
 
 void AddStatusBlocks(Lines& lines) {
   for (uint32_t code = 0; code < 256; ++code)
-    lines.Add(code, After("\x1BS\r" + std::to_string(code) + "\r0\r1\n"));
+    lines.Add(code, After("\033S\r" + std::to_string(code) + "\r0\r1\n"));
 }
 
 void AddOptionBlocks(Lines& lines) {
   for (int letter = ' '; letter < 127; ++letter) {
     for (int bit = 0; bit < 8; ++bit) {
       const std::string option = static_cast<char>(letter) + ":"s + static_cast<char>(1 << bit);
-      lines.Add(test::Quoted(option) + ": " + After("\x1B\x44\r" + option + "\n"));
+      lines.Add(test::Quoted(option) + ": " + After("\033\x44\r" + option + "\n"));
     }
   }
 }

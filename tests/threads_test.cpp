@@ -19,10 +19,10 @@ struct Worker {
 
 const Worker kWorkers[] = {
     {"first", "de", 0x040C,
-     "\x1BS\r36,"
-     "4\r0\r1\r1\n\x1BT\r1\r5\n\x1BZ\r1\r50\n\x1BV\rA\r1\n\x1B\x46\rGOTHIC\n\x1B\x43\r1\n"},
+     "\033S\r36,"
+     "4\r0\r1\r1\n\033T\r1\r5\n\033Z\r1\r50\n\033V\rA\r1\n\033\x46\rGOTHIC\n\033\x43\r1\n"},
     {"second", "jp", 0x0405,
-     "\x1BS\r69,72\r1\r2\r3\n\x1BT\r1\r5\r2\r6\n\x1BL\r1\r0\n\x1BM\r7\n\x1B\x44\rF:3\rO:\x03\n"},
+     "\033S\r69,72\r1\r2\r3\n\033T\r1\r5\r2\r6\n\033L\r1\r0\n\033M\r7\n\033\x44\rF:3\rO:\x03\n"},
 };
 
 // What a worker hears, each different thing once: what is its own business, and what depends on

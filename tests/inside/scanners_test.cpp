@@ -65,7 +65,7 @@ TEST_CASE("a block letter needs an escape before it") {
     std::string bytes;
     int letter;
   } const rows[] = {
-      {"\x1BS", 'S'}, {"\x1B ", ' '}, {"\x1B\xC0", -64}, {"S\x1B", -1}, {"", -1}, {"\x1B", 0},
+      {"\033S", 'S'}, {"\033 ", ' '}, {"\033\xC0", -64}, {"S\033", -1}, {"", -1}, {"\033", 0},
   };
   for (const auto& row : rows) {
     CAPTURE(row.bytes);
@@ -84,23 +84,23 @@ TEST_CASE("a block is scanned up to its LF or its limit and read field by field"
     std::string fields;  // of 7 bytes at most, each followed by a bar
     std::string rest;    // of the whole block, of 6 bytes at most
   } rows[] = {
-      {"up to the LF", "\x1BT\r1\r22\n\x1B", 8, 2, "1|22|", "1\r22"},
-      {"cut off before its LF", "\x1BT\r1\r22", 0, 0, "", ""},
-      {"without fields", "\x1BT\r\n", 4, 1, "|", ""},
-      {"without a CR in its head", "\x1BT\n", 3, 0, "", ""},
-      {"another byte in the CR's place", "\x1BTx1\r2\n", 7, 1, "1|2|", "1\r2"},
-      {"an empty last field", "\x1BT\r1\r\n", 6, 2, "1||", "1\r"},
-      {"six characters fit", "\x1BT\r123456\r7\n", 12, 2, "123456|7|", "123456"},
-      {"seven lose one and leave the CR", "\x1BT\r1234567\r8\n", 13, 2, "123456||8|", "123456"},
-      {"eight lose one and leave one", "\x1BT\r12345678\r9\n", 14, 2, "123456|8|9|", "123456"},
-      {"a zero byte at a field's start ends them", "\x1BT\r1\r\0\r2\n"s, 9, 3, "1|", "1\r\0\r2"s},
-      {"a zero byte inside a field does not", "\x1BT\r1\0\r2\n"s, 8, 2, "1\0|2|"s, "1\0\r2"s},
-      {"LF as the 255th byte", "\x1BT\r1\r" + std::string(249, '\r') + "\n", 255, 251,
+      {"up to the LF", "\033T\r1\r22\n\033", 8, 2, "1|22|", "1\r22"},
+      {"cut off before its LF", "\033T\r1\r22", 0, 0, "", ""},
+      {"without fields", "\033T\r\n", 4, 1, "|", ""},
+      {"without a CR in its head", "\033T\n", 3, 0, "", ""},
+      {"another byte in the CR's place", "\033Tx1\r2\n", 7, 1, "1|2|", "1\r2"},
+      {"an empty last field", "\033T\r1\r\n", 6, 2, "1||", "1\r"},
+      {"six characters fit", "\033T\r123456\r7\n", 12, 2, "123456|7|", "123456"},
+      {"seven lose one and leave the CR", "\033T\r1234567\r8\n", 13, 2, "123456||8|", "123456"},
+      {"eight lose one and leave one", "\033T\r12345678\r9\n", 14, 2, "123456|8|9|", "123456"},
+      {"a zero byte at a field's start ends them", "\033T\r1\r\0\r2\n"s, 9, 3, "1|", "1\r\0\r2"s},
+      {"a zero byte inside a field does not", "\033T\r1\0\r2\n"s, 8, 2, "1\0|2|"s, "1\0\r2"s},
+      {"LF as the 255th byte", "\033T\r1\r" + std::string(249, '\r') + "\n", 255, 251,
        "1|" + std::string(250, '|'), "1" + std::string(5, '\r')},
       {"no LF in 255 bytes: no empty field at a CR there",
-       "\x1BT\r1\r" + std::string(250, '\r') + "\n", 255, 252, "1|" + std::string(250, '|'),
+       "\033T\r1\r" + std::string(250, '\r') + "\n", 255, 252, "1|" + std::string(250, '|'),
        "1" + std::string(5, '\r')},
-      {"no LF in 255 bytes", "\x1BT\r" + longName, 255, 1,
+      {"no LF in 255 bytes", "\033T\r" + longName, 255, 1,
        [] {
          std::string fields;
          for (int left = 252; left > 0; left -= 7)
@@ -127,7 +127,7 @@ TEST_CASE("a block is scanned up to its LF or its limit and read field by field"
 }
 
 TEST_CASE("nothing is read after a block's last field") {
-  test::GuardedBytes bytes(std::string("\x1BV\rSYS\n"));
+  test::GuardedBytes bytes(std::string("\033V\rSYS\n"));
   stm::Block block{};
   const stm::Input input{bytes.data(), bytes.data() + bytes.size()};
   REQUIRE(stm::ScanBlock(input, stm::BlockEnd::Line, block));

@@ -10,7 +10,7 @@ namespace {
 
 stmon::Snapshot Told(const std::string& blocks) {
   return stmon::ReadExchange({"test", "query", ""},
-                             stmon::JudgeReply("\x1BS\r" + blocks + "\x1B "));
+                             stmon::JudgeReply("\033S\r" + blocks + "\033 "));
 }
 
 stmon::Snapshot Silent(const std::string& name) {
@@ -37,18 +37,18 @@ TEST_CASE("metrics have a sample for what is known and none for what is not") {
        "condition{*,reason=\"subunit-offline\",severity=\"error\"} 1"},
       {"a code that nobody knows", "777\r0\r1\r1\n",
        "condition{*,code=\"777\",reason=\"other\",severity=\"warning\"} 1"},
-      {"the tray in use", "0\r0\r1\r1\n\x1BT\r1\r-1\n",
+      {"the tray in use", "0\r0\r1\r1\n\033T\r1\r-1\n",
        "condition{*,reason=\"media-empty\",severity=\"error\",tray=\"Tray 1\"} 1"},
-      {"a level", "0\r0\r1\r1\n\x1BZ\r2\r75\n", "tray_paper_ratio{*,tray=\"Tray 2\"} 0.75"},
-      {"no paper, whatever the level", "0\r0\r2\r1\n\x1BT\r1\r-1\n\x1BZ\r1\r50\n",
+      {"a level", "0\r0\r1\r1\n\033Z\r2\r75\n", "tray_paper_ratio{*,tray=\"Tray 2\"} 0.75"},
+      {"no paper, whatever the level", "0\r0\r2\r1\n\033T\r1\r-1\n\033Z\r1\r50\n",
        "tray_paper_ratio{*,tray=\"Tray 1\"} 0.00"},
-      {"a level that is none", "0\r0\r2\r1\n\x1BZ\r1\r101\n", "!tray_paper_ratio"},
-      {"the tray is there all the same", "0\r0\r2\r1\n\x1BZ\r1\r101\n",
+      {"a level that is none", "0\r0\r2\r1\n\033Z\r1\r101\n", "!tray_paper_ratio"},
+      {"the tray is there all the same", "0\r0\r2\r1\n\033Z\r1\r101\n",
        "tray_state{*,tray=\"Tray 1\",state=\"paper\"} 1"},
-      {"a tray that is out", "0\r0\r2\r1\n\x1BT\r1\r128\n\x1BZ\r1\r50\n",
+      {"a tray that is out", "0\r0\r2\r1\n\033T\r1\r128\n\033Z\r1\r50\n",
        "tray_state{*,tray=\"Tray 1\",state=\"not-in-place\"} 1"},
-      {"its level", "0\r0\r2\r1\n\x1BT\r1\r128\n\x1BZ\r1\r50\n", "!tray_paper_ratio"},
-      {"a tray of which nothing is known", "0\r0\r2\r1\n\x1BT\r1\r9999\n",
+      {"its level", "0\r0\r2\r1\n\033T\r1\r128\n\033Z\r1\r50\n", "!tray_paper_ratio"},
+      {"a tray of which nothing is known", "0\r0\r2\r1\n\033T\r1\r9999\n",
        "tray_state{*,tray=\"Tray 1\",state=\"unknown\"} 1"},
       {"trays that were not told", "0\r0\r1\r1\n", "!tray"},
   };
@@ -85,7 +85,7 @@ TEST_CASE("of a silent printer metrics tell since when, and an earlier run's tex
 }
 
 TEST_CASE("a printer's name does not break out of its label, and nobody asked is nothing told") {
-  const std::string text = stmon::MetricsReport(Silent("a \"quoted\\name\"\n\x1B"), {});
+  const std::string text = stmon::MetricsReport(Silent("a \"quoted\\name\"\n\033"), {});
   CHECK(text.find("stmon_up{printer=\"a \\\"quoted\\\\name\\\"\\n\xEF\xBF\xBD\"} 0\n") !=
         std::string::npos);
   CHECK(stmon::MetricsReport(stmon::ReadIdentity({"", "", "MFG:A;"}), {}) == "");

@@ -156,7 +156,7 @@ TEST_CASE("every status explains itself in every language") {
 
 TEST_CASE("columns begin where they begin in the line above, in letters of any width") {
   const std::string reply =
-      "\x1BS\r65,81\r0\r2\r1\n\x1BT\r1\r6\r2\r128\rT\r2\n\x1BZ\r1\r5\r2\r0\rT\r100\n\x1B ";
+      "\033S\r65,81\r0\r2\r1\n\033T\r1\r6\r2\r128\rT\r2\n\033Z\r1\r5\r2\r0\rT\r100\n\033 ";
   for (const Language& language : kLanguages) {
     CAPTURE(language.code);
     stmon::Source source;

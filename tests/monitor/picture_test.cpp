@@ -31,7 +31,7 @@ TEST_CASE("a picture shows its state and becomes PNG and half blocks") {
   for (const bool true_colour : {false, true}) {
     const std::string text = stmon::HalfBlocks(ready, 80, true_colour);
     CHECK(std::count(text.begin(), text.end(), '\n') == 25);
-    CHECK(text.ends_with("\x1B[0m\n"));
+    CHECK(text.ends_with("\033[0m\n"));
   }
 }
 

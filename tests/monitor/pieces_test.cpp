@@ -18,17 +18,14 @@ TEST_CASE("a reply ends at its end marker and nowhere else") {
     size_t length;  // 0: no end
   };
   const Row rows[] = {
-      {"the marker alone", "\x1B ", 2},
-      {"a marker cut in half", "\x1B", 0},
-      {"a status block ended by LF", "\x1BS\r0\n\x1B ", 7},
-      {"a status block ended by the marker", "\x1BS\r0\r0\r1\x1B ", 10},
-      {"ESC and space as raw option bits",
-       "\x1B"
-       "D\rO:\x1B \n\x1B ",
-       10},
-      {"the same bytes where the frame is lost", "?\x1B ", 3},
-      {"an ESC before the marker's ESC", "\x1BS\r\x1B\x1B x", 6},
-      {"a second reply after the first", "\x1BS\r0\n\x1B \x1BS\r4\n\x1B ", 7},
+      {"the marker alone", "\033 ", 2},
+      {"a marker cut in half", "\033", 0},
+      {"a status block ended by LF", "\033S\r0\n\033 ", 7},
+      {"a status block ended by the marker", "\033S\r0\r0\r1\033 ", 10},
+      {"ESC and space as raw option bits", "\033D\rO:\033 \n\033 ", 10},
+      {"the same bytes where the frame is lost", "?\033 ", 3},
+      {"an ESC before the marker's ESC", "\033S\r\033\033 x", 6},
+      {"a second reply after the first", "\033S\r0\n\033 \033S\r4\n\033 ", 7},
   };
   for (const Row& row : rows) {
     CAPTURE(row.why);
@@ -43,14 +40,14 @@ TEST_CASE("a reply ends at its end marker and nowhere else") {
 }
 
 TEST_CASE("blocks are told from what is none") {
-  const auto blocks = stmon::SplitBlocks("\x1BS\r0\n\x1BT\r1\r6\njunk"sv);
+  const auto blocks = stmon::SplitBlocks("\033S\r0\n\033T\r1\r6\njunk"sv);
   REQUIRE(blocks.size() == 3);
   CHECK(blocks[0].letter == 'S');
-  CHECK(blocks[1].bytes == "\x1BT\r1\r6\n"sv);
+  CHECK(blocks[1].bytes == "\033T\r1\r6\n"sv);
   CHECK(blocks[1].whole);
   CHECK_FALSE(blocks[2].whole);
   CHECK(blocks[2].letter == '\0');
-  const auto cut = stmon::SplitBlocks("\x1BS\r0\r0"sv);
+  const auto cut = stmon::SplitBlocks("\033S\r0\r0"sv);
   REQUIRE(cut.size() == 1);
   CHECK_FALSE(cut[0].whole);
 }
@@ -116,7 +113,7 @@ TEST_CASE("a scenario says in which line it is wrong") {
       {"manner whole 3\n", "line 1: expected manner"},
       {"repeat 0\n", "line 1: expected repeat"},
       {"next\nnext\ncolour blue\n", "line 3: unknown word 'colour'"},
-      {"\x1B[31m\n", "line 1: unknown word '\\x1B[31m'"},
+      {"\033[31m\n", "line 1: unknown word '\\x1B[31m'"},
   };
   for (const Row& row : rows) {
     CAPTURE(row.text);
@@ -150,16 +147,16 @@ TEST_CASE("a later state starts as a copy and replaces whole lists") {
 
 TEST_CASE("the simulated printer answers what was asked, and its status always") {
   stmon::PrinterState state;
-  CHECK(stmon::RequestedBlocks("\x12\x14\x12\x1BT\n\x1BZ\n\x1B "sv) == "TZ");
-  CHECK(stmon::BuildReply(state, "") == "\x1BS\r0\r0\r1\r1\n\x1B ");
+  CHECK(stmon::RequestedBlocks("\x12\x14\x12\033T\n\033Z\n\033 "sv) == "TZ");
+  CHECK(stmon::BuildReply(state, "") == "\033S\r0\r0\r1\r1\n\033 ");
   state.online = false;
   state.bin = "";
-  CHECK(stmon::BuildReply(state, "HBT") == "\x1BS\r0\r1\r1\n\x1BT\r1\r6\r2\r2\rT\r6\n\x1B ");
+  CHECK(stmon::BuildReply(state, "HBT") == "\033S\r0\r1\r1\n\033T\r1\r6\r2\r2\rT\r6\n\033 ");
 }
 
 TEST_CASE("nothing that controls a terminal leaves") {
-  CHECK(stmon::EscapeBytes("a\\b\x1B\xFF\n"sv) == "a\\\\b\\x1B\\xFF\\x0A");
-  CHECK(stmon::CleanUtf8("\x1B[2J\xC2\x9B"
+  CHECK(stmon::EscapeBytes("a\\b\033\xFF\n"sv) == "a\\\\b\\x1B\\xFF\\x0A");
+  CHECK(stmon::CleanUtf8("\033[2J\xC2\x9B"
                          "31m\xE2\x80\xAEok\nß\xFF"sv) ==
         "\xEF\xBF\xBD[2J\xEF\xBF\xBD"
         "31m\xEF\xBF\xBDok\nß\xEF\xBF\xBD");

@@ -76,7 +76,7 @@ TEST_CASE("a poll fills what the printer told, and only that") {
   CHECK(snapshot.trays[0].paper == PaperNone);
   CHECK(snapshot.trays[1].level == 50);
 
-  const std::string only_status = "\x1BS\r32\r0\r1\n\x1B ";
+  const std::string only_status = "\033S\r32\r0\r1\n\033 ";
   const auto short_reply = stmon::ReadExchange({"test", "", "", stmon::RecordKind::List},
                                                stmon::JudgeReply(only_status));
   CHECK(short_reply.told);
@@ -84,7 +84,7 @@ TEST_CASE("a poll fills what the printer told, and only that") {
   CHECK_FALSE(short_reply.currentBin);
   const auto no_levels =
       stmon::ReadExchange({"test", "", "", stmon::RecordKind::List},
-                          stmon::JudgeReply("\x1BS\r0\r0\r1\n\x1BT\r1\r6\n\x1B "));
+                          stmon::JudgeReply("\033S\r0\r0\r1\n\033T\r1\r6\n\033 "));
   REQUIRE(no_levels.trays.size() == 1);
   CHECK_FALSE(no_levels.trays[0].level);
 }
@@ -123,8 +123,8 @@ TEST_CASE("what a saved reply lacks is told without a word of connections") {
   const Row rows[] = {
       {"", "not one byte"},
       {"hello", "not a readback reply"},
-      {"\x1BS\r0\r0\r1", "stops before its end marker"},
-      {"\x1BT\r1\r6\n\x1B ", "no status block"},
+      {"\033S\r0\r0\r1", "stops before its end marker"},
+      {"\033T\r1\r6\n\033 ", "no status block"},
   };
   for (const Row& row : rows) {
     CAPTURE(row.bytes);

@@ -67,7 +67,7 @@ TEST_CASE("the exit status follows the dominant condition") {
   for (const Row& row : rows) {
     CAPTURE(row.why);
     const std::string reply =
-        "\x1BS\r" + row.status + (row.online ? "\r0" : "\r1") + "\r1\r1\n\x1B ";
+        "\033S\r" + row.status + (row.online ? "\r0" : "\r1") + "\r1\r1\n\033 ";
     const auto snapshot =
         stmon::ReadExchange({"test", "", "", stmon::RecordKind::List}, stmon::JudgeReply(reply));
     CHECK(snapshot.verdict == row.verdict);

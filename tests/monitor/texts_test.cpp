@@ -12,10 +12,7 @@ namespace {
 
 stmon::Snapshot Told(const std::string& status, stmon::RecordKind kind, const char* language,
                      const char* duplex = "0") {
-  const std::string reply = "\x1BS\r" + status +
-                            "\r0\r1\r1\n\x1B"
-                            "C\r" +
-                            duplex + "\n\x1B ";
+  const std::string reply = "\033S\r" + status + "\r0\r1\r1\n\033C\r" + duplex + "\n\033 ";
   stmon::Source source{"test", "", "", kind, stmon::FindLanguage(language), true};
   return stmon::ReadExchange(source, stmon::JudgeReply(reply));
 }

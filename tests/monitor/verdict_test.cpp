@@ -32,11 +32,11 @@ struct Case {
 };
 
 stmon::Snapshot Read(const Case& input) {
-  std::string reply = "\x1BS\r";
+  std::string reply = "\033S\r";
   for (const uint32_t code : input.codes)
     reply += (reply.back() == '\r' ? "" : ",") + std::to_string(code);
-  reply += std::string(input.online ? "\r0" : "\r1") + "\r1\r1\n\x1BT\r" + input.tray->paper +
-           "\n\x1BZ\r" + input.tray->levels + "\n\x1B ";
+  reply += std::string(input.online ? "\r0" : "\r1") + "\r1\r1\n\033T\r" + input.tray->paper +
+           "\n\033Z\r" + input.tray->levels + "\n\033 ";
   stmon::Source source{"test", "", "", input.record};
   source.offlineAs = input.offlineAs;
   return stmon::ReadExchange(std::move(source), stmon::JudgeReply(reply));

@@ -11,8 +11,8 @@ namespace {
 
 stmon::Snapshot Told(const std::string& status, const std::string& trays = "1\r6",
                      const std::string& levels = "1\r50", bool online = true) {
-  const std::string reply = "\x1BS\r" + status + (online ? "\r0" : "\r1") + "\r1\r1\n\x1BT\r" +
-                            trays + "\n\x1BZ\r" + levels + "\n\x1B ";
+  const std::string reply = "\033S\r" + status + (online ? "\r0" : "\r1") + "\r1\r1\n\033T\r" +
+                            trays + "\n\033Z\r" + levels + "\n\033 ";
   return stmon::ReadExchange({"test", "", "", stmon::RecordKind::List}, stmon::JudgeReply(reply));
 }
 
