@@ -36,6 +36,9 @@ foreach(program IN ITEMS stmon stmonw)
   endif()
 endforeach()
 
+install(FILES monitor/report/stmon.schema.json DESTINATION ${CMAKE_INSTALL_DATAROOTDIR}/stmdata
+  COMPONENT monitor)
+
 # ---- For those who build against it -----------------------------------------------------------
 
 configure_package_config_file(cmake/stmdata-config.cmake.in stmdata-config.cmake

@@ -76,10 +76,12 @@ std::string CatalogueText(const std::vector<CatalogueEntry>& catalogue) {
 std::string CatalogueJson(const std::vector<CatalogueEntry>& catalogue) {
   std::string report;
   for (const CatalogueEntry& entry : catalogue) {
-    Json json{{"code", entry.code},
-              {"level", entry.level},
-              {"reason", Keyword(*entry.reason)},
-              {"icon", entry.icon}};
+    Json json = NewDocument("catalogue");
+    json["code"] = entry.code;
+    json["status_level"] = entry.level;
+    json["reason"] = Keyword(*entry.reason);
+    json["severity"] = SeverityWord(entry.reason->severity);
+    json["icon"] = entry.icon;
     for (const StatusWords& words : entry.words) {
       json["texts"][words.language->code] = {{"list", TextsJson(words.list)},
                                              {"list_duplex", TextsJson(words.listDuplex)},

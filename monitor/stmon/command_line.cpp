@@ -89,6 +89,14 @@ void Describe(CLI::App& app, Options& options) {
   app.add_option("--watch", options.watch, "poll on and print what changes, until ended")
       ->option_text("SECONDS")
       ->check(Seconds(0.1, 86400));
+  app.add_option("--misses", options.misses,
+                 "so many polls without an answer count as silence, default 2")
+      ->option_text("POLLS")
+      ->check(CLI::Range(1, 1000));
+  app.add_option("--report-every", options.reportEvery,
+                 "watching: print the whole report again every so many polls")
+      ->option_text("POLLS")
+      ->check(CLI::Range(1, 1000000));
   app.add_option("--picture", options.pictureFile,
                  "write the printer's picture; in a terminal '-' shows it")
       ->option_text("FILE.png|FILE.svg|-");

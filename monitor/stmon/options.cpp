@@ -28,6 +28,7 @@ constexpr Ruler kRulers[] = {
 struct Row {
   char marks[std::size(kRulers) + 1];  // x: goes with the ruler of that column
   const char* option;
+  const char* needed = nullptr;  // another option without which it has no effect
 };
 
 constexpr Row kRows[] = {
@@ -40,24 +41,26 @@ constexpr Row kRows[] = {
     // ||||||--simulate
     // |||||||--watch
     // ||||||||'-'
-    {"x......xx", "PRINTER"},       //
-    {".x......x", "--reply"},       //
-    {"xxx....x.", "--device-id"},   //
-    {"xxx....xx", "--record"},      //
-    {"xxxx...x.", "--lang"},        //
-    {"xx.x.....", "--lang all"},    //
-    {"...x.....", "--catalogue"},   //
-    {"xx.....xx", "--save-reply"},  //
-    {"xxxx...x.", "--json"},        //
-    {"xx.....x.", "--raw"},         //
-    {"x......x.", "--watch"},       //
-    {"xx......x", "--picture"},     //
-    {"....x....", "--gallery"},     //
-    {"xx.....xx", "--metrics"},     //
-    {"x......xx", "--timeout"},     //
-    {"xx.....xx", "--offline-as"},  //
-    {"......x..", "--simulate"},    //
-    {".....xxxx", "--scenario"},    //
+    {"x......xx", "PRINTER"},                    //
+    {".x......x", "--reply"},                    //
+    {"xxx....x.", "--device-id"},                //
+    {"xxx....xx", "--record"},                   //
+    {"xxxx...x.", "--lang"},                     //
+    {"xx.x.....", "--lang all"},                 //
+    {"...x.....", "--catalogue"},                //
+    {"xx.....xx", "--save-reply"},               //
+    {"xxxx...x.", "--json"},                     //
+    {"xx.....x.", "--raw"},                      //
+    {"x......x.", "--watch"},                    //
+    {"x......x.", "--misses", "--watch"},        //
+    {"x......x.", "--report-every", "--watch"},  //
+    {"xx......x", "--picture"},                  //
+    {"....x....", "--gallery"},                  //
+    {"xx.....xx", "--metrics"},                  //
+    {"x......xx", "--timeout"},                  //
+    {"xx.....xx", "--offline-as"},               //
+    {"......x..", "--simulate"},                 //
+    {".....xxxx", "--scenario"},                 //
 };
 
 // How many results standard output is to take in place of a file.
@@ -88,8 +91,13 @@ std::vector<std::string> OptionsWithRow() {
 
 std::string FindClash(const Options& options, std::vector<std::string> given) {
   if (options.language == "all") given.push_back("--lang all");
+  const auto is_given = [&](const char* option) {
+    return std::find(given.begin(), given.end(), option) != given.end();
+  };
   for (const Row& row : kRows) {
-    if (std::find(given.begin(), given.end(), row.option) == given.end()) continue;
+    if (!is_given(row.option)) continue;
+    if (row.needed && !is_given(row.needed))
+      return std::string(row.option) + " goes only with " + row.needed;
     for (size_t i = 0; i < std::size(kRulers); ++i) {
       if (row.marks[i] != 'x' && kRulers[i].rules(options))
         return std::string(row.option) + " does not go with " + kRulers[i].name;

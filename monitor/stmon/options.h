@@ -1,6 +1,7 @@
 // What the command line asks for, and which options go together.
 #pragma once
 
+#include <cstdint>
 #include <string>
 #include <vector>
 
@@ -20,6 +21,8 @@ struct Options {
   std::string scenario;                // empty: ready
   std::string simulate;                // port to be a simulated printer at
   double watch = 0;                    // seconds between polls, 0: one poll
+  uint32_t misses = 2;                 // polls without an answer that are silence
+  uint32_t reportEvery = 0;            // polls from one whole report to the next, 0: the first only
   double timeout = 5;                  // seconds for a poll
   std::string offlineAs = "critical";  // how grave it is that the printer is offline
   bool catalogue = false;

@@ -143,10 +143,11 @@ int ReportOnce(const Options& options, const Snapshot& snapshot) {
 int WatchOn(const Options& options, const Target& target, const std::string& name) {
   const auto interval = std::chrono::milliseconds(static_cast<int64_t>(options.watch * 1000));
   Watch watch;
-  for (bool first_poll = true;; first_poll = false) {
+  watch.misses = options.misses;
+  for (uint64_t poll = 0;; ++poll) {
     const Snapshot snapshot = AskNetwork(options, target, name);
     const bool first_answer = IsGood(snapshot) && !watch.good;
-    const bool was_silent = watch.failures > 0;
+    const bool was_silent = IsSilent(watch);
     const auto events = Observe(watch, snapshot, std::chrono::steady_clock::now());
     for (const Event& event : events) {
       // A printer that answers at once needs no line before its first report.
@@ -154,18 +155,19 @@ int WatchOn(const Options& options, const Target& target, const std::string& nam
       Print(options.json ? EventJson(event, snapshot) : EventText(event, snapshot));
     }
     const bool bytes_wanted = options.raw && !events.empty();
+    const bool due = options.reportEvery > 0 && poll % options.reportEvery == 0;
     if (options.json) {
-      if (first_answer || bytes_wanted) Print(JsonReport(snapshot, bytes_wanted));
+      if (first_answer || due || bytes_wanted) Print(JsonReport(snapshot, bytes_wanted));
     } else {
-      if (first_answer) Print(TextReport(snapshot) + "\n");
+      if (first_answer || due) Print(TextReport(snapshot) + "\n");
       if (bytes_wanted) Print(RawReport(snapshot));
     }
     if (!OutputTrouble().empty()) return kTrouble;
     // A file that cannot be written from the start is a mistake; later the disk may be full for a
     // while.
     const bool written = WriteFiles(options, snapshot, LastAnswerOf(watch));
-    if (!written && first_poll) return kTrouble;
-    std::this_thread::sleep_for(NextWait(watch.failures, interval));
+    if (!written && poll == 0) return kTrouble;
+    std::this_thread::sleep_for(NextWait(watch, interval));
   }
 }
 

@@ -26,7 +26,7 @@ enum class Phrase {
   Cyan, Magenta, Yellow, Black,
   UnknownCondition, TonerNearlyEmpty, OutputFull, OutputFullDetail, OutputNearlyFull, UnitR3,
   RearCoverOpen, RearCoverOpenDuplex,
-  FirstAnswer, Lost, NeverAnswered, LastAnswerAgo, Back, SilentFor,
+  FirstAnswer, Lost, NeverAnswered, LastAnswerAgo, Back, SilentFor, Flapping, Steady,
   Seconds, Minutes, Hours,
   WindowTitle, PrinterField, PollNow, Every, EverySeconds, LanguageField, OthersList, TraysList,
   EquipmentList, Close, Connecting, Asking, AnsweredAt, LastAnswerAt, NoAnswerSince,

@@ -36,6 +36,8 @@ const Sample kSamples[] = {
     {"--json", {"--json"}},
     {"--raw", {"--raw"}},
     {"--watch", {"--watch", "5"}},
+    {"--misses", {"--misses", "3"}},
+    {"--report-every", {"--report-every", "10"}},
     {"--picture", {"--picture", "state.png"}},
     {"--picture -", {"--picture", "-"}},
     {"--gallery", {"--gallery", "pages"}},
@@ -50,28 +52,30 @@ const Sample kSamples[] = {
 
 // Each option with those above it: x goes with it, . does not, = is the same one twice.
 const char* const kPairs[] = {
-    "PRINTER         ",                       //
-    "--reply         .",                      //
-    "--device-id     xx",                     //
-    "--record        xxx",                    //
-    "--lang          xxxx",                   //
-    "--lang all      xx.x=",                  //
-    "--catalogue     ....xx",                 //
-    "--save-reply    xx.xxx.",                //
-    "--save-reply -  xx.x...=",               //
-    "--json          xxxxxxxx.",              //
-    "--raw           xx.xxx.x.x",             //
-    "--watch         x..xx..x.xx",            //
-    "--picture       xx.xxx.xxxx.",           //
-    "--picture -     xx.x...x....=",          //
-    "--gallery       ..............",         //
-    "--metrics       xx.xxx.xxxxxxx.",        //
-    "--metrics -     xx.x...x....x..=",       //
-    "--timeout       x..xxx.xxxxxxx.xx",      //
-    "--offline-as    xx.xxx.xxxxxxx.xxx",     //
-    "--simulate      ...................",    //
-    "--scenario      ..xxxx.xxxxxxx.xxxxx",   //
-    "--scenario list ....................=",  //
+    "PRINTER         ",                         //
+    "--reply         .",                        //
+    "--device-id     xx",                       //
+    "--record        xxx",                      //
+    "--lang          xxxx",                     //
+    "--lang all      xx.x=",                    //
+    "--catalogue     ....xx",                   //
+    "--save-reply    xx.xxx.",                  //
+    "--save-reply -  xx.x...=",                 //
+    "--json          xxxxxxxx.",                //
+    "--raw           xx.xxx.x.x",               //
+    "--watch         x..xx..x.xx",              //
+    "--misses        ...........x",             //
+    "--report-every  ...........x.",            //
+    "--picture       xx.xxx.xxxx...",           //
+    "--picture -     xx.x...x......=",          //
+    "--gallery       ................",         //
+    "--metrics       xx.xxx.xxxxx..xx.",        //
+    "--metrics -     xx.x...x......x..=",       //
+    "--timeout       x..xxx.xxxxx..xx.xx",      //
+    "--offline-as    xx.xxx.xxxxx..xx.xxx",     //
+    "--simulate      .....................",    //
+    "--scenario      ..xxxx.xxxxx..xx.xxxxx",   //
+    "--scenario list ......................=",  //
 };
 
 std::string PairMark(const Sample& one, const Sample& other) {

@@ -86,6 +86,8 @@ inline constexpr PhraseRow kCzechPhrases[] = {
     {Phrase::LastAnswerAgo,       "poslední odpověď před {1}"},
     {Phrase::Back,                "opět odpovídá ({1}): {2}"},
     {Phrase::SilentFor,           "{1} bez použitelné odpovědi"},
+    {Phrase::Flapping,            "stále se mění, další zpráva až po ustálení: {1}"},
+    {Phrase::Steady,              "opět ustáleno: {1}"},
 
     {Phrase::Seconds,             "{1} s"},
     {Phrase::Minutes,             "{1} min"},

@@ -86,6 +86,8 @@ inline constexpr PhraseRow kDanishPhrases[] = {
     {Phrase::LastAnswerAgo,       "seneste svar for {1} siden"},
     {Phrase::Back,                "svarer igen ({1}): {2}"},
     {Phrase::SilentFor,           "intet brugbart svar i {1}"},
+    {Phrase::Flapping,            "skifter hele tiden, næste besked først når det er stabilt: {1}"},
+    {Phrase::Steady,              "stabilt igen: {1}"},
 
     {Phrase::Seconds,             "{1} sek."},
     {Phrase::Minutes,             "{1} min."},

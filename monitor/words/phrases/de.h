@@ -86,6 +86,8 @@ inline constexpr PhraseRow kGermanPhrases[] = {
     {Phrase::LastAnswerAgo,       "letzte Antwort vor {1}"},
     {Phrase::Back,                "antwortet wieder ({1}): {2}"},
     {Phrase::SilentFor,           "{1} ohne brauchbare Antwort"},
+    {Phrase::Flapping,            "wechselt ständig, weitere Meldung erst, wenn es stabil ist: {1}"},
+    {Phrase::Steady,              "wieder stabil: {1}"},
 
     {Phrase::Seconds,             "{1} s"},
     {Phrase::Minutes,             "{1} min"},

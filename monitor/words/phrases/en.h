@@ -95,6 +95,8 @@ inline constexpr PhraseRow kEnglishPhrases[] = {
     {Phrase::LastAnswerAgo,       "last answer {1} ago"},
     {Phrase::Back,                "answers again ({1}): {2}"},  // {1} the next one, {2} the status
     {Phrase::SilentFor,           "no usable answer for {1}"},
+    {Phrase::Flapping,            "keeps changing, no more is told until it is steady: {1}"},  // {1} the latest change
+    {Phrase::Steady,              "steady again: {1}"},  // {1} the change that lasted
 
     // Spans of time.
     {Phrase::Seconds,             "{1} s"},

@@ -86,6 +86,8 @@ inline constexpr PhraseRow kSpanishPhrases[] = {
     {Phrase::LastAnswerAgo,       "última respuesta hace {1}"},
     {Phrase::Back,                "vuelve a responder ({1}): {2}"},
     {Phrase::SilentFor,           "sin respuesta válida durante {1}"},
+    {Phrase::Flapping,            "cambia continuamente, no se avisará más hasta que se estabilice: {1}"},
+    {Phrase::Steady,              "estable de nuevo: {1}"},
 
     {Phrase::Seconds,             "{1} s"},
     {Phrase::Minutes,             "{1} min"},

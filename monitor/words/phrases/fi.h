@@ -86,6 +86,8 @@ inline constexpr PhraseRow kFinnishPhrases[] = {
     {Phrase::LastAnswerAgo,       "viimeisin vastaus {1} sitten"},
     {Phrase::Back,                "vastaa taas ({1}): {2}"},
     {Phrase::SilentFor,           "ilman käyttökelpoista vastausta {1}"},
+    {Phrase::Flapping,            "vaihtelee jatkuvasti, seuraava ilmoitus vasta kun tila on vakaa: {1}"},
+    {Phrase::Steady,              "jälleen vakaa: {1}"},
 
     {Phrase::Seconds,             "{1} s"},
     {Phrase::Minutes,             "{1} min"},

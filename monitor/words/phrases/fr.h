@@ -86,6 +86,8 @@ inline constexpr PhraseRow kFrenchPhrases[] = {
     {Phrase::LastAnswerAgo,       "dernière réponse il y a {1}"},
     {Phrase::Back,                "répond à nouveau ({1})\u00A0: {2}"},
     {Phrase::SilentFor,           "aucune réponse exploitable pendant {1}"},
+    {Phrase::Flapping,            "change sans cesse, la suite une fois stable\u00A0: {1}"},
+    {Phrase::Steady,              "de nouveau stable\u00A0: {1}"},
 
     {Phrase::Seconds,             "{1} s"},
     {Phrase::Minutes,             "{1} min"},

@@ -86,6 +86,8 @@ inline constexpr PhraseRow kHungarianPhrases[] = {
     {Phrase::LastAnswerAgo,       "az utolsó válasz óta eltelt: {1}"},
     {Phrase::Back,                "újra válaszol ({1}): {2}"},
     {Phrase::SilentFor,           "használható válasz nélkül: {1}"},
+    {Phrase::Flapping,            "folyamatosan változik, újabb üzenet csak akkor, ha állandósul: {1}"},
+    {Phrase::Steady,              "ismét állandó: {1}"},
 
     {Phrase::Seconds,             "{1} mp"},
     {Phrase::Minutes,             "{1} perc"},

@@ -86,6 +86,8 @@ inline constexpr PhraseRow kItalianPhrases[] = {
     {Phrase::LastAnswerAgo,       "ultima risposta {1} fa"},
     {Phrase::Back,                "risponde di nuovo ({1}): {2}"},
     {Phrase::SilentFor,           "nessuna risposta utilizzabile per {1}"},
+    {Phrase::Flapping,            "continua a cambiare, altri avvisi solo quando sarà stabile: {1}"},
+    {Phrase::Steady,              "di nuovo stabile: {1}"},
 
     {Phrase::Seconds,             "{1} s"},
     {Phrase::Minutes,             "{1} min"},

@@ -86,6 +86,8 @@ inline constexpr PhraseRow kJapanesePhrases[] = {
     {Phrase::LastAnswerAgo,       "最後の応答は{1}前"},
     {Phrase::Back,                "再び応答しました ({1}): {2}"},
     {Phrase::SilentFor,           "{1}間有効な応答なし"},
+    {Phrase::Flapping,            "変化を繰り返しています。安定するまで通知しません: {1}"},
+    {Phrase::Steady,              "安定しました: {1}"},
 
     {Phrase::Seconds,             "{1}秒"},
     {Phrase::Minutes,             "{1}分"},

@@ -86,6 +86,8 @@ inline constexpr PhraseRow kDutchPhrases[] = {
     {Phrase::LastAnswerAgo,       "laatste antwoord {1} geleden"},
     {Phrase::Back,                "antwoordt weer ({1}): {2}"},
     {Phrase::SilentFor,           "{1} geen bruikbaar antwoord"},
+    {Phrase::Flapping,            "wisselt steeds, volgende melding pas als het stabiel is: {1}"},
+    {Phrase::Steady,              "weer stabiel: {1}"},
 
     {Phrase::Seconds,             "{1} s"},
     {Phrase::Minutes,             "{1} min"},

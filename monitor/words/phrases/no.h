@@ -86,6 +86,8 @@ inline constexpr PhraseRow kNorwegianPhrases[] = {
     {Phrase::LastAnswerAgo,       "siste svar for {1} siden"},
     {Phrase::Back,                "svarer igjen ({1}): {2}"},
     {Phrase::SilentFor,           "ikke noe brukbart svar på {1}"},
+    {Phrase::Flapping,            "skifter hele tiden, neste melding først når det er stabilt: {1}"},
+    {Phrase::Steady,              "stabilt igjen: {1}"},
 
     {Phrase::Seconds,             "{1} s"},
     {Phrase::Minutes,             "{1} min"},

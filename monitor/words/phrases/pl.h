@@ -86,6 +86,8 @@ inline constexpr PhraseRow kPolishPhrases[] = {
     {Phrase::LastAnswerAgo,       "ostatnia odpowiedź {1} temu"},
     {Phrase::Back,                "znów odpowiada ({1}): {2}"},
     {Phrase::SilentFor,           "brak użytecznej odpowiedzi przez {1}"},
+    {Phrase::Flapping,            "ciągle się zmienia, kolejny komunikat dopiero po ustabilizowaniu: {1}"},
+    {Phrase::Steady,              "znów stabilne: {1}"},
 
     {Phrase::Seconds,             "{1} s"},
     {Phrase::Minutes,             "{1} min"},

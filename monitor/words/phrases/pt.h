@@ -86,6 +86,8 @@ inline constexpr PhraseRow kPortuguesePhrases[] = {
     {Phrase::LastAnswerAgo,       "última resposta há {1}"},
     {Phrase::Back,                "voltou a responder ({1}): {2}"},
     {Phrase::SilentFor,           "sem resposta utilizável por {1}"},
+    {Phrase::Flapping,            "muda sem parar, novo aviso só quando estabilizar: {1}"},
+    {Phrase::Steady,              "estável novamente: {1}"},
 
     {Phrase::Seconds,             "{1} s"},
     {Phrase::Minutes,             "{1} min"},

@@ -86,6 +86,8 @@ inline constexpr PhraseRow kSwedishPhrases[] = {
     {Phrase::LastAnswerAgo,       "senaste svar för {1} sedan"},
     {Phrase::Back,                "svarar igen ({1}): {2}"},
     {Phrase::SilentFor,           "inget användbart svar på {1}"},
+    {Phrase::Flapping,            "växlar hela tiden, nästa besked först när det är stabilt: {1}"},
+    {Phrase::Steady,              "stabilt igen: {1}"},
 
     {Phrase::Seconds,             "{1} s"},
     {Phrase::Minutes,             "{1} min"},
