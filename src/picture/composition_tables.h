@@ -25,7 +25,7 @@ inline constexpr Overlay kWasteToner = {26, 7};
 inline constexpr Overlay kPcu = {27, 8};
 inline constexpr Overlay kFusingOil = {28, 9};
 inline constexpr Overlay kFuserCleaner = {29, 10};
-inline constexpr Overlay kOpenTop = {30, 11};  // where the three before it are
+inline constexpr Overlay kOpenTop = {30, 11};  // shows the three before it
 inline constexpr Overlay kTonerArea = {31, 12};
 inline constexpr Overlay kFrontCover = {32, 13};
 inline constexpr Overlay kTopCover = {33, 14};
@@ -156,9 +156,9 @@ inline constexpr ListUnitsRow kListUnits[] = {
     {0, {kTray2Front}, {}},  // closing row: every other picture is seen from the front
 };
 
-// Which trays stand out. The picture of a row's status marks the tray in use. A ready printer's
-// marks all trays with the row's paper and all in place that have run down; the rows after one that
-// marked any are not asked.
+// Which trays stand out. The picture of a row's status marks the tray in use. The picture of a
+// ready printer marks every tray with the row's paper and every tray in place that has run down; it
+// stops at the first row that marked any.
 struct TrayRule {
   uint32_t status;
   uint32_t paperCode;

@@ -63,7 +63,7 @@ void DrawPicture(const Control& control, uint32_t flags) {
       drawn = BlitLayer(control, part.bitmapName, firstRop);
       first = false;
     }
-    // Every operation of a part, made twice, gives what it gives once.
+    // To draw a layer again with the same operation would change no pixel.
     if (!drawn || firstRop != secondRop) BlitLayer(control, part.bitmapName, secondRop);
   }
 }

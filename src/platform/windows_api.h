@@ -33,7 +33,7 @@ HICON STM_CALL LoadIconA(HINSTANCE module, const char* name);
 
 HWND STM_CALL GetDlgItem(HWND dialog, int controlId);
 
-// Windows that have a device context are the picture controls.
+// Only picture controls have a device context.
 HDC STM_CALL GetDC(HWND window);
 int STM_CALL ReleaseDC(HWND window, HDC context);
 

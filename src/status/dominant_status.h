@@ -30,12 +30,12 @@ struct DominantStatuses {
 DominantStatuses GetDominantStatuses(const PrnInfo& info);
 DominantStatuses GetDominantStatuses(const PrnInfoEx& info);
 
-// A flat record's one code where it stands for itself: 102 and 100 as above, though the code alone
-// tells how grave it is.
+// What the one code of a flat record that lists no several means: 102 when the printer does not
+// respond, 100 when it prints and the code is a mild one, else the code.
 uint32_t OwnStatus(const PrnInfo& info);
 
-// What a record's texts and picture are about: the dominant statuses, or the flat record's one code
-// where that stands for itself.
+// What a record's texts and picture are about: the dominant statuses, or the own one of a flat
+// record that lists no several.
 DominantStatuses StatusesOf(const PrnInfo& info);
 DominantStatuses StatusesOf(const PrnInfoEx& info);
 

@@ -53,8 +53,8 @@ struct Statement {
   Loader load;
 };
 
-// What is wrong is told rather than that the printer is offline: a flat record's code says whether
-// something is, a list-based record's error flag.
+// An offline printer is said to be offline unless something is wrong with it. Whether something is,
+// the code of a flat record tells, and the error flag of a list-based one.
 Statement State(const PrnInfo& info, uint32_t code) {
   return {code, !info.online && code <= kLastMildCode, LoadInThreadLanguage};
 }
@@ -108,7 +108,7 @@ uint32_t ColourOf(uint32_t tonerCode) {
   return (tonerCode - StatusFirstToner) % kColours;
 }
 
-// The codes of one tie are all toner codes or none of them is.
+// Of statuses that share a priority all are about toners, or none is.
 static_assert([] {
   for (const PriorityRow& row : kPriorityTable) {
     for (const PriorityRow& other : kPriorityTable) {
@@ -196,7 +196,7 @@ uint32_t TellDetail(PrnInfo& info, const Target& target) {
     return 1;
   const DominantStatuses statuses = StatusesOf(info);
   const Statement statement = State(info, statuses.codes[0]);
-  // Callers find the chosen code where the record has room for one.
+  // The record's only status becomes the one that is told.
   if (info.statusCount == 1) info.statusList[0] = statement.code;
   return TellStatement(statement, FlatSuffix(statuses), target);
 }
@@ -208,7 +208,7 @@ uint32_t TellDetail(const PrnInfoEx& info, const Target& target) {
     if (statement.code == StatusReady && NeedsTray(ViewTrays(info), ViewLevels(info), kNoTray) &&
         LoadInChosenLanguage(kTrayMessage, target) != Loaded::None)
       return 1;
-    // A success even where it cannot be loaded.
+    // The answer counts as given even where this text cannot be loaded.
     if (const uint32_t message = DuplexMessage(info, statement.code)) {
       LoadInChosenLanguage(message, target);
       return 1;

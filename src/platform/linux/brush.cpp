@@ -11,7 +11,7 @@ namespace stm {
 using Block = uint32_t __attribute__((vector_size(kLongRun * sizeof(uint32_t))));
 
 // The build asks for no particular processor: the compiler writes one brush for each of these, and
-// the loader takes the first that the processor knows. Where it has no registers as wide as a block
+// the loader takes the first that the processor knows. Where registers are narrower than a block,
 // the compiler takes several.
 #if defined(__i386__) || defined(__x86_64__)
 #define STM_FOR_EACH_PROCESSOR __attribute__((target_clones("avx2", "sse2", "default")))

@@ -7,7 +7,7 @@ namespace {
 constexpr uint32_t kWhite = 0x00FFFFFF;
 
 // Pixels begin where a line of the processor's cache does, and so does every row of a control as
-// wide as the library's pictures: few wide stores are then cut in two.
+// wide as the library's pictures: a store of many pixels then seldom touches two lines.
 constexpr uint32_t kAlignment = 64;
 
 stm::Picture* FindPicture(HWND handle, int32_t id) {

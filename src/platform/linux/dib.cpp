@@ -72,7 +72,8 @@ Row RowOf(const Painter& painter, int32_t line) {
   return {painter.frame.pixels + y * painter.frame.width, painter.left, painter.right};
 }
 
-// All of these paint the columns `x` to `end`, of which `end` is not beyond the row's right.
+// Each of these paints the columns from `x` to the one before `end`, which is at most the row's
+// right.
 
 void PaintRun(const Row& row, int32_t x, int32_t end, const Stroke& stroke) {
   const int32_t begin = std::max(x, row.left);

@@ -10,7 +10,7 @@
 namespace stm {
 namespace {
 
-// Two letters each, with a blank between them.
+// `codes` have two letters each, with a blank between them.
 bool Lists(std::string_view codes, std::string_view code) {
   const size_t at = codes.find(code);
   return code.size() == 2 && at != codes.npos && at % 3 == 0;
