@@ -95,6 +95,8 @@ TEST_CASE("a block is scanned up to its LF or its limit and read field by field"
       {"eight lose one and leave one", "\033T\r12345678\r9\n", 14, 2, "123456|8|9|", "123456"},
       {"a zero byte at a field's start ends them", "\033T\r1\r\0\r2\n"s, 9, 3, "1|", "1\r\0\r2"s},
       {"a zero byte inside a field does not", "\033T\r1\0\r2\n"s, 8, 2, "1\0|2|"s, "1\0\r2"s},
+      {"an end marker is no end of this block", "\033T\r1\033 \r2\n", 9, 2, "1\033 |2|",
+       "1\033 \r2"},
       {"LF as the 255th byte", "\033T\r1\r" + std::string(249, '\r') + "\n", 255, 251,
        "1|" + std::string(250, '|'), "1" + std::string(5, '\r')},
       {"no LF in 255 bytes: no empty field at a CR there",
