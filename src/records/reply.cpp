@@ -62,7 +62,7 @@ uint32_t WalkReply(Input rest, Filling to) {
 
 ReplyResult ReadReply(Filling to, const char* reply, int32_t length) {
   if (!to.record || !reply) return {0, 0};
-  // Whether it is a reply tells its first byte, which is there whatever the length says.
+  // The first byte tells whether it is a reply; it is there whatever the length says.
   const Input input{reply, reply + std::max(length, 1)};
   if (BlockLetter(input) == -1) return {0, 0};
   return {1, WalkReply(input, to)};

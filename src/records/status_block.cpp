@@ -10,6 +10,7 @@
 namespace stm {
 namespace {
 
+// How many bytes a field takes at most, and a code in the first one, their delimiters among them.
 constexpr uint32_t kMostOfField = 63;
 constexpr uint32_t kMostOfCode = 7;
 
