@@ -14,8 +14,8 @@ namespace {
 
 constexpr const char* kFooter =
     "\nWithout PRINTER a built-in simulated printer is asked, over a real connection.\n"
-    "Exit status: 0 fine, 1 needs attention soon, 2 cannot print, 3 unknown, no response or wrong "
-    "usage.\n"
+    "Exit status: 0 fine, 1 needs attention soon, 2 cannot print, 3 unknown,\n"
+    "no response or wrong usage.\n"
     "Examples:\n"
     "  stmon 192.0.2.10                      ask a printer\n"
     "  stmon --scenario no-paper --json      ask the simulated one, as JSON\n"
@@ -72,51 +72,46 @@ void Describe(CLI::App& app, Options& options) {
       ->check(Must(IsTarget, kNoTarget));
   app.add_option("--reply", options.replyFile, "show a saved reply instead of asking a printer")
       ->option_text("FILE  ('-': standard input)");
-  app.add_option("--device-id", options.deviceId,
-                 "show what a Device ID says, alone or beside the poll")
+  app.add_option("--device-id", options.deviceId, "tell of a Device ID, alone or beside the poll")
       ->option_text("TEXT");
-  app.add_option("--record", options.record, "which of the library's records answers, default list")
+  app.add_option("--record", options.record, "which of the two records answers, default list")
       ->option_text("list|flat")
       ->check(CLI::IsMember({"list", "flat"}));
-  app.add_option("--lang", options.language, LanguageCodes() + "; default from the locale, else EN")
+  app.add_option("--lang", options.language,
+                 "of texts and labels; default the locale's, one of\n" + LanguageCodes())
       ->option_text("CODE|all")
       ->check(Must(IsLanguage, "is not one of " + LanguageCodes() + " all"));
   app.add_flag("--catalogue", options.catalogue,
-               "print every status the library knows, in all languages or that of --lang");
+               "every status, in all languages or that of --lang");
   app.add_option("--save-reply", options.saveFile, "keep the reply for later")->option_text("FILE");
   app.add_flag("--json", options.json, "one JSON object on standard output");
   app.add_flag("--raw", options.raw, "show the bytes of query and reply, block by block");
   app.add_option("--watch", options.watch, "poll on and print what changes, until ended")
       ->option_text("SECONDS")
       ->check(Seconds(0.1, 86400));
-  app.add_option("--misses", options.misses,
-                 "so many polls without an answer count as silence, default 2")
+  app.add_option("--misses", options.misses, "polls without answer that are silence, default 2")
       ->option_text("POLLS")
       ->check(CLI::Range(1, 1000));
   app.add_option("--report-every", options.reportEvery,
-                 "watching: print the whole report again every so many polls")
+                 "watching: the whole report again at each so many")
       ->option_text("POLLS")
       ->check(CLI::Range(1, 1000000));
-  app.add_option("--picture", options.pictureFile,
-                 "write the printer's picture; in a terminal '-' shows it")
+  app.add_option("--picture", options.pictureFile, "write the picture; in a terminal '-' shows it")
       ->option_text("FILE.png|FILE.svg|-");
-  app.add_option("--gallery", options.gallery,
-                 "write pictures, icons and texts of every status, and a page that shows them")
+  app.add_option("--gallery", options.gallery, "write a page with the pictures of every status")
       ->option_text("DIR");
   app.add_option("--metrics", options.metricsFile, "write the state as Prometheus text")
       ->option_text("FILE");
   app.add_option("--timeout", options.timeout, "for the whole poll, default 5")
       ->option_text("SECONDS")
       ->check(Seconds(0.1, 3600));
-  app.add_option("--offline-as", options.offlineAs,
-                 "what an offline printer without an error is, default critical")
+  app.add_option("--offline-as", options.offlineAs, "what being offline is, default critical")
       ->option_text("ok|warning|critical|unknown")
       ->check(CLI::IsMember({"ok", "warning", "critical", "unknown"}));
   app.add_option("--simulate", options.simulate, "be a simulated printer at 127.0.0.1, until ended")
       ->option_text("PORT")
       ->check(Must(IsPort, "is no port; 1 to 65535 are"));
-  app.add_option("--scenario", options.scenario,
-                 "what the simulated printer is like; 'list' names all")
+  app.add_option("--scenario", options.scenario, "what is simulated; 'list' names all")
       ->option_text("NAME|FILE");
   app.set_version_flag("--version", std::string("stmon ") + STMON_VERSION);
 }
@@ -151,7 +146,7 @@ void DescribeCheck(CLI::App& app, CheckOptions& options) {
   DescribeThreshold(app, "-w,--warning", options.rules.warning, "of paper in per cent, each tray");
   DescribeThreshold(app, "-c,--critical", options.rules.critical, "likewise");
   app.add_option("--ignore", options.rules.ignoredReasons,
-                 "a condition that does not count: toner-low; may be repeated")
+                 "what does not count (toner-low); may be repeated")
       ->option_text("REASON")
       ->expected(1)
       ->take_all()
@@ -168,8 +163,7 @@ void DescribeCheck(CLI::App& app, CheckOptions& options) {
       ->expected(1)
       ->take_all()
       ->check(Must([](const std::string& name) { return TrayNamed(name) != 0; }, "is no tray"));
-  app.add_option("--misses", options.misses,
-                 "polls before silence is told, in equal parts of the time; default 1")
+  app.add_option("--misses", options.misses, "polls before silence is told, default 1")
       ->option_text("N")
       ->check(CLI::Range(1, 100));
   app.add_option("--offline-as", options.ask.offlineAs, "what being offline is, default critical")

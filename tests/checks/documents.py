@@ -88,6 +88,7 @@ with tempfile.TemporaryDirectory() as folder:
 
 manual = (ROOT / "docs/stmon.1").read_text(encoding="utf-8")
 helps = printed(BUILD / "stmon", "--help") + printed(BUILD / "stmon", "check", "--help")
+faults += [f"wider than 80 columns: {line}" for line in helps.decode().splitlines() if len(line) > 80]
 options = set(re.findall(r"^  (?:-\w,)?--([\w-]+)", helps.decode(), re.M))
 named = set(re.findall(r"^\.It Fl Fl ([\w-]+)", manual, re.M))
 faults += [f"stmon.1: --{name} is not in both" for name in sorted(options ^ named)]

@@ -103,7 +103,8 @@ with tempfile.TemporaryDirectory() as folder:
     file = pathlib.Path(folder, "stmon.prom")
     twice = pathlib.Path(folder, "twice.txt")
     twice.write_text("status 32,32,777,777,778\nonline no\ntray 1 6 50\ntray 1 8 20\ntray T 6 0\ntray 5 128 100\n")
-    scenarios = [line.split()[0] for line in run("--scenario", "list").stdout.splitlines()] + [str(twice)]
+    listed = subprocess.run([STMON, "--scenario", "list"], capture_output=True, text=True, check=True).stdout
+    scenarios = [line.split()[0] for line in listed.splitlines()] + [str(twice)]
     runs = [["--scenario", name, "--record", kind] for name in scenarios for kind in ("list", "flat")]
     pages = []
     for arguments in [*runs, ["127.0.0.1:1"]]:
