@@ -103,7 +103,7 @@ try_root=$cache/debian-amd64
 
 make_build_root() {
   make_debian_root i386 "$build_root" "Debian i386 root" "a minute or two, 590 MB" \
-    binutils-mingw-w64-i686,cmake,debhelper,g++,ninja-build,pkg-config
+    binutils-mingw-w64-i686,build-essential,cmake,debhelper,ninja-build,pkg-config
 }
 make_try_root() {
   make_debian_root amd64,i386 "$try_root" "clean Debian root" "a minute or two, 650 MB" \
