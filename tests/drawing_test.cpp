@@ -218,7 +218,6 @@ TEST_CASE("pictures are drawn as a plain loop over their pixels draws them" * kS
 TEST_CASE("the control's edges clip the picture" * kSkipped) {
   const PrnBitmap list = Compose(kPictures[1]);
   for (const auto& [width, height] : {std::pair{1, 1}, {100, 60}, {400, 199}, {319, 260}}) {
-    CAPTURE(width);
     PictureDialog dialog(width, height, kGround);
     const auto steps = DrawPlainly("", list, test::Plain(width, height, kGround), kSetPasses);
     CHECK(PatDrawPrinterBitmap_Ex(dialog.handle(), 0, PictureDialog::kControl, kSetPasses, 0, 0) ==

@@ -149,11 +149,6 @@ TEST_CASE("a reply updates the record block by block") {
   }
 }
 
-// Something in every field that a reply can fill.
-const char kEarlier[] =
-    "\033S\r1,2,3\r1\r5\r7\n\033T\r1\r5\r2\r5\n\033L\r1\r5\n\033V\rA\r1\rB\r2\rC\r3\n\033M\r7\n"
-    "\033E\rNPS\n\033F\rKAISHO\n\033D\rF:3\rO: \n";
-
 TEST_CASE("a reply that is cut off says what its whole blocks say, and nothing past it is read") {
   for (const ReplyCase& row : kReplies) {
     for (const std::string& reply : row.replies) {

@@ -36,6 +36,27 @@ programs() {
   rm -f "$log"
 }
 
+# arm64_programs: the test programs under the emulator, and what the library makes of many inputs, which
+# must be the same as natively.
+arm64_programs() {
+  local program log
+  local emulator=(qemu-aarch64 -L /usr/aarch64-linux-gnu)
+  log=$(mktemp)
+  for program in "${all_tests[@]}"; do
+    "${emulator[@]}" "build/arm64/$program" >"$log" 2>&1
+    count_program "arm64 $program" "$log"
+  done
+  rm -f "$log"
+  build native stmdata_dump
+  if cmp <(LC_ALL=C "${emulator[@]}" -E LC_ALL=C build/arm64/stmdata_dump fuzz/corpus) \
+    <(LC_ALL=C build/native/stmdata_dump fuzz/corpus) >&2; then
+    passed=$((passed + 1))
+    say "  arm64 and native make the same of every input"
+  else
+    count_failure "arm64 makes something else of an input"
+  fi
+}
+
 # windows_programs PRESET WIDTH LOCALE TEST...: test programs of a Windows build for a user of that
 # locale, in one visit to the Wine of that width, on a virtual display.
 windows_programs() {

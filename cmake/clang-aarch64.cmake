@@ -1,0 +1,16 @@
+# For 64-bit ARM, with Debian's clang and its cross libraries: its cross g++ cannot be installed beside
+# the one for 32 bits. What is built runs under qemu-aarch64 -L /usr/aarch64-linux-gnu.
+set(CMAKE_SYSTEM_NAME Linux)
+set(CMAKE_SYSTEM_PROCESSOR aarch64)
+set(CMAKE_C_COMPILER clang)
+set(CMAKE_CXX_COMPILER clang++)
+set(CMAKE_ASM_COMPILER clang)
+foreach(language IN ITEMS C CXX ASM)
+  set(CMAKE_${language}_COMPILER_TARGET aarch64-linux-gnu)
+endforeach()
+set(CMAKE_EXE_LINKER_FLAGS_INIT -fuse-ld=lld)
+set(CMAKE_SHARED_LINKER_FLAGS_INIT -fuse-ld=lld)
+set(CMAKE_FIND_ROOT_PATH /usr/aarch64-linux-gnu)
+set(CMAKE_FIND_ROOT_PATH_MODE_PROGRAM NEVER)
+set(CMAKE_FIND_ROOT_PATH_MODE_LIBRARY ONLY)
+set(CMAKE_FIND_ROOT_PATH_MODE_INCLUDE ONLY)
