@@ -34,12 +34,22 @@ Image Scaled(const Image& image, int columns) {
   return small;
 }
 
+// The number of the nearest of the colours that nearly every terminal has: 216 in a cube whose
+// levels are 0, 95, 135, 175, 215 and 255, and 24 greys from 8 to 238.
+uint32_t NearestOf256(uint32_t red, uint32_t green, uint32_t blue) {
+  constexpr uint32_t kGrey = 12;  // so far apart colours are still taken for one
+  const auto [least, most] = std::minmax({red, green, blue});
+  if (most - least < kGrey && least >= 4 && most <= 242)
+    return 232 + std::min(((red + green + blue) / 3 - 3) / 10, 23u);
+  const auto level = [](uint32_t value) {
+    return value < 48 ? 0 : value < 115 ? 1 : (value - 35) / 40;
+  };
+  return 16 + 36 * level(red) + 6 * level(green) + level(blue);
+}
+
 std::string ColourCode(uint32_t pixel, bool true_colour) {
   const uint32_t red = pixel >> 16 & 255, green = pixel >> 8 & 255, blue = pixel & 255;
-  if (!true_colour) {
-    const auto level = [](uint32_t value) { return (value * 5 + 127) / 255; };
-    return "5;" + std::to_string(16 + 36 * level(red) + 6 * level(green) + level(blue));
-  }
+  if (!true_colour) return "5;" + std::to_string(NearestOf256(red, green, blue));
   return "2;" + std::to_string(red) + ";" + std::to_string(green) + ";" + std::to_string(blue);
 }
 

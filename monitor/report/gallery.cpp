@@ -7,6 +7,7 @@
 #include "report/json.h"
 #include "system/files.h"
 #include "words/own_texts.h"
+#include "words/phrases.h"
 
 namespace stmon {
 namespace {
@@ -71,7 +72,7 @@ std::string FileStem(uint32_t code) {
 
 // One file without links to others, so that it can be sent by mail or attached to a report.
 constexpr const char* kPageHead = R"(<!doctype html>
-<html lang="en"><head><meta charset="utf-8"><title>Printer states</title>
+<html><head><meta charset="utf-8"><title>Printer states</title>
 <meta name="viewport" content="width=device-width, initial-scale=1">
 <style>
 body { font: 15px/1.45 system-ui, sans-serif; margin: 1.5rem; color: #222; background: #f4f4f2; }
@@ -84,30 +85,34 @@ h2 { font-size: 1rem; margin: .5rem 0 .2rem; display: flex; gap: .5rem; align-it
 p { margin: .2rem 0; white-space: pre-line; }
 small { color: #666; }
 </style></head><body>
-<header><h1>Printer states</h1>
-<label>Language <select id="language"></select></label>
-<label><input type="checkbox" id="duplex"> duplex unit</label>
-<label>Trays <select id="trays"><option>1<option>2<option>3</select></label></header>
+<header><h1 id="title"></h1>
+<label><span id="language-label"></span> <select id="language"></select></label>
+<label><input type="checkbox" id="duplex"> <span id="duplex-label"></span></label>
+<label><span id="trays-label"></span> <select id="trays"><option>1<option>2<option>3</select></label>
+</header>
 <main id="cards"></main>
 <script>
 const data = )";
 
 constexpr const char* kPageTail = R"(;
 const at = id => document.getElementById(id);
-for (const [code, name] of data.languages) at("language").add(new Option(name, code));
+for (const { name } of data.languages) at("language").add(new Option(name));
 function show() {
   const duplex = at("duplex").checked, build = (duplex ? 3 : 0) + at("trays").selectedIndex;
-  document.documentElement.lang = at("language").selectedOptions[0].value;
+  const language = data.languages[at("language").selectedIndex];
+  document.documentElement.lang = language.tag;
+  document.title = language.labels.title;
+  for (const [id, text] of Object.entries(language.labels)) at(id).textContent = text;
   at("cards").replaceChildren(...data.states.map(state => {
-    const [brief, plain, open] = state.texts[at("language").value];
+    const [brief, plain, open] = state.texts[language.code];
     const make = (tag, text) => Object.assign(document.createElement(tag), { textContent: text });
     const image = (number, alt) => Object.assign(new Image(), { src: data.images[number], alt });
     const title = make("h2", "");
     if (state.icon !== null) title.append(image(state.icon, ""));
-    title.append(brief || "\u2013");
+    title.append(brief);
     const card = make("article", "");
     card.append(image(state.pictures[build], brief), title, make("p", duplex ? open : plain),
-                make("small", `code ${state.code} \u00b7 ${state.reason}`));
+                make("small", `${language.code_of.replace("#", state.code)} \u00b7 ${state.reason}`));
     return card;
   }));
 }
@@ -115,6 +120,20 @@ for (const id of ["language", "duplex", "trays"]) at(id).addEventListener("chang
 show();
 </script></body></html>
 )";
+
+// The labels by the ids of the elements that show them.
+Json LanguageJson(const Language& language) {
+  const std::string_view tags = language.locales;  // the first is its own
+  return {{"code", language.code},
+          {"name", language.name},
+          {"tag", tags.substr(0, tags.find(' '))},
+          {"labels",
+           {{"title", Say(Phrase::GalleryTitle, language)},
+            {"language-label", Say(Phrase::GalleryLanguage, language)},
+            {"duplex-label", Say(Phrase::OptionDuplex, language)},
+            {"trays-label", Say(Phrase::Trays, language)}}},
+          {"code_of", Say(Phrase::CodeNumber, language, {"#"})}};
+}
 
 Json StateTexts(const CatalogueEntry& entry) {
   Json texts;
@@ -151,7 +170,7 @@ std::string WriteGallery(const std::string& folder, void (*progress)(const std::
   Gallery gallery{folder, {}, Json::array(), ""};
   Json page;
   for (const Language& language : kLanguages)
-    page["languages"].push_back({language.code, language.name});
+    page["languages"].push_back(LanguageJson(language));
   const auto catalogue = AskCatalogue(nullptr);
   size_t done = 0;
   for (const CatalogueEntry& entry : catalogue) {

@@ -87,14 +87,15 @@ bool WriteFiles(const Options& options, const Snapshot& snapshot, const LastAnsw
   return written;
 }
 
-// In a terminal as coloured text, or in words where it has no colours; elsewhere as the bytes of a
-// file.
+// In a terminal as coloured text, or in words where it has no colours or is narrow; elsewhere as
+// the bytes of a file.
 void PrintPicture(const Image& image, const Snapshot& snapshot) {
-  constexpr int kMostColumns = 100;  // more make it larger, not clearer
+  constexpr int kFewestColumns = 60;  // of fewer nobody makes a printer
+  constexpr int kMostColumns = 100;   // more make it larger, not clearer
   const Terminal terminal = OutputTerminal();
   if (terminal.columns == 0) {
     Print(EncodePng(image));
-  } else if (terminal.colours) {
+  } else if (terminal.colours && terminal.columns >= kFewestColumns) {
     Print(HalfBlocks(image, std::min(terminal.columns, kMostColumns), terminal.trueColour));
   } else {
     Print(snapshot.headline + "\n");
