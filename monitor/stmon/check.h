@@ -16,7 +16,7 @@ struct CheckOptions {
   bool verbose = false;
 };
 
-// `arguments` begin with the first one behind "check". Prints one line whatever happens, unless
+// `arguments` begin with the first one after "check". Prints one line whatever happens, unless
 // help or the version is asked for. Result: the exit status of a plugin.
 int Check(std::vector<std::string> arguments);
 

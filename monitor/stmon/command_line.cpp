@@ -37,7 +37,7 @@ bool IsLanguage(const std::string& text) {
   return text == "all" || FindLanguage(text);
 }
 
-// A test of the option's value; `wrong` is what people read behind the value.
+// A test of the option's value; `wrong` is what people read after the value.
 CLI::Validator Must(const std::function<bool(const std::string& text)>& good,
                     const std::string& wrong) {
   return CLI::Validator(

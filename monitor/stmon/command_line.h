@@ -15,7 +15,7 @@ struct Parsed {
   std::string complaint;  // what is wrong, for standard error
 };
 
-// `arguments` begin with the first one behind the program's name. Addresses, ports, languages and
+// `arguments` begin with the first one after the program's name. Addresses, ports, languages and
 // numbers have been looked at when the complaint is empty.
 Parsed ParseCommandLine(std::vector<std::string> arguments, Options& options);
 

@@ -24,7 +24,7 @@ std::string HexBytes(std::string_view bytes);
 // Columns that the text takes in a terminal: two for a full-width character, one for the others.
 size_t DisplayWidth(std::string_view utf8);
 
-// With blanks behind it, up to so many columns.
+// With blanks after it, up to so many columns.
 std::string Padded(std::string_view utf8, size_t columns);
 
 }  // namespace stmon

@@ -139,7 +139,7 @@ const Line kLines[] = {
      ""},
     {"a Device ID alone asks nobody", {"--device-id", "MFG:A", "--watch", "1"}, "alone"},
     {"a simulated printer in a state", {"--simulate", "9100", "--scenario", "offline"}, ""},
-    {"a value behind '='", {"--watch=1", "[::1]:9100"}, ""},
+    {"a value after '='", {"--watch=1", "[::1]:9100"}, ""},
     {"standard input", {"--reply", "-"}, ""},
     {"a pipe from here to there", {"--reply", "-", "--picture", "-"}, ""},
     {"no printer", {""}, "PRINTER: '' is not a printer's address"},
