@@ -29,6 +29,9 @@ const ReplyCase kReplies[] = {
     {"unknown tray and bin", {"\033S\r0\r0\rX\r16\n"}, "status[0] online bin=255"},
     {"an error among the codes", {"\033S\r4,25\r0\rM\n"}, "status[4 25] online error tray=2"},
     {"an unlisted code is an error", {"\033S\r1\r0\rM\n"}, "status[1] online error tray=2"},
+    {"a code above 65535 is classed by its low 16 bits",
+     {"\033S\r65557\r0\rM\n\033S\r65568\r0\rM\n"},
+     "status[32] online error tray=2"},
     {"the error flag goes again",
      {"\033S\r25\r0\rM\n", "\033S\r18\r0\rM\n"},
      "status[18] online tray=2"},
@@ -169,6 +172,12 @@ TEST_CASE("a reply that is cut off says what its whole blocks say, and nothing p
       });
     }
   }
+}
+
+TEST_CASE("the walk goes on after what is read of an over-long block") {
+  test::Record record;
+  test::Parse(record, "\033L\r1\r" + std::string(250, '7') + "\033T\r1\r5\n");
+  CHECK(test::Describe(record) == "trays[3:7:0] bins[1:56881]");
 }
 
 TEST_CASE("a list of the same length keeps its nodes") {

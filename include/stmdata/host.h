@@ -134,7 +134,7 @@ STM_HOST_API BOOL STM_CALL HostDestroyDialog(HWND dialog);
 STM_HOST_API LANGID STM_CALL SetThreadUILanguage(LANGID language);
 STM_HOST_API LANGID STM_CALL GetThreadUILanguage(void);
 
-#define CP_ACP 0u /* the code page of the thread's language */
+#define CP_ACP 0u /* the code page of the texts in the thread's language */
 
 /* Converts a text of code page 932, 1250, 1252 or CP_ACP to UTF-16.
    flags   0

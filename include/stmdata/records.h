@@ -47,8 +47,8 @@ enum {
 enum {
   PatErrorNone = 0,
   PatErrorNotFound = 1,   /* no row for the code, or nothing to look at */
-  PatErrorNullRecord = 2, /* a null record, row, buffer or list was handed in */
-  PatErrorText = 3,       /* the text cannot be loaded, or is empty in this language */
+  PatErrorNullRecord = 2, /* a null record, or a null row or name buffer */
+  PatErrorText = 3,       /* the text cannot be loaded or is empty, or has no buffer */
   PatErrorPicture = 5     /* the picture was not produced */
 };
 
@@ -159,8 +159,8 @@ STM_SIZE(EmulationNode, STM_EITHER(28, 32));
 /* ---- The list-based record -------------------------------------------------------------------
    Zero-filled before the first use. Every string and node is a GlobalAlloc block of its own that
    belongs to the record's owner; the library releases a block only when it replaces it. A string is
-   absent when its pointer is null or all-ones. Lists are read for 65,536 nodes at most; one that
-   leads back into itself is never released. */
+   absent when its pointer is null or all-ones. Lists are read for 65,536 nodes at most; one of
+   so many nodes, or that leads back into itself, is never released: it stays its maker's. */
 typedef struct PrnInfoEx {      /* 112 or 176 bytes */
   uint32_t recordTag;           /*   0   0  PrnInfoExTag; the readback parser leaves it alone */
   uint32_t structSize;          /*   4   4  PrnInfoExSize */
@@ -176,7 +176,7 @@ typedef struct PrnInfoEx {      /* 112 or 176 bytes */
   uint8_t offline;              /*  44  76  1 offline; print manager only */
   uint8_t modelCode;            /*  45  77  255 unknown */
   uint8_t online;               /*  46  78  1 online */
-  uint8_t hasError;             /*  47  79  1 when a listed status is of the error class */
+  uint8_t hasError;             /*  47  79  1 when a status or a state bit is an error */
   uint8_t printing;             /*  48  80  1 printing; print manager only */
   uint8_t noResponse;           /*  49  81  1 no response; print manager only */
   uint8_t reserved1[2];         /*  50  82 */

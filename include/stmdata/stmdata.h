@@ -320,13 +320,14 @@ STM_API uint32_t STM_CALL PatGetStatusFromNet(uint32_t status);
            its source (for languages and fonts also when it has no item; the status list fails only
            when an item has no code, and leaves that out); all others are converted. Tray, bin and
            language in use are stored as the print manager numbers them, 0, 255 and 0 when absent.
-           Both state codes, energy saver and warming up, can be listed; without any bit none is.
+           Both state codes, energy saver and warming up, can be listed; without any bit no code is
+           added to others.
            `statusCode` becomes 102 when the state tells no response and is never written
            otherwise: neither the list nor an answer takes that back. Counts tell what was stored,
            at most the array's capacity. Texts are cut to their field, never inside a double-byte
            character of code page 932. A count of 0 empties the counts of trays and bins.
            GroupOptions clears hasDuplex, option2Flag to option4Flag and the option bits, also when
-           it then fails */
+           it then fails. Texts of `info` itself may come back to their fields */
 STM_API uint32_t STM_CALL PatSetPMPrnInfoToPrnInfo(PrnInfoEx* info, const PMPrnInfo* pm,
                                                    uint32_t groups);
 STM_API uint32_t STM_CALL PatSetPMPrnInfoToPrnInfo_0(PrnInfo* info, const PMPrnInfo* pm,
@@ -337,8 +338,8 @@ STM_API uint32_t STM_CALL PatSetPMPrnInfoToPrnInfo_0(PrnInfo* info, const PMPrnI
            compares the most urgent statuses, not the lists; GroupStatus takes the model code with
            the state flags. An STM_ABSENT tray, bin or language in use and an option value 0xFFFF
            agree with any, and so do a missing description or version text; two missing model names
-           or makers agree, a missing one and a text differ. Lists are compared as far as their
-           counts and chains reach
+           or makers agree, a missing one and a text differ. Lists of other counts differ; of
+           the same count they are compared as far as their chains reach
    equal   receives 1 when the records agree, else 0. Two printers that do not respond agree, and
            one that does not differs from one that does, whatever is selected
    Result  1 compared. 0: `equal` is not written, GetLastError: 6 `first` or `second` is null, 487

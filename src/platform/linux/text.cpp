@@ -1,5 +1,5 @@
 // Text in code pages, as the system's functions on Windows convert and load it. Where Windows takes
-// the system's ANSI code page, this takes the one of the thread's language.
+// the system's ANSI code page, this takes that of the texts in the thread's language.
 #include <charconv>
 #include <cstring>
 

@@ -95,6 +95,8 @@ TEST_CASE("the thread's language chooses table and code page; one without a tabl
       {0x0409, "Online/Ready", "1252"},
       {0x0419, "Online/Ready", "1252"},
       {0x0816, "Online/Ready", "1252"},
+      {0x0408, "Online/Ready", "1252"},
+      {0x0C07, "Online/Ready", "1252"},
       {0x0809, "Online/Ready", "1252"},
       {0x0811, "Online/Ready", "1252"},  // Japanese of no country that there is
   };
